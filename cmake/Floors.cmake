@@ -1,0 +1,38 @@
+# One static library per folder. A folder's headers are reachable only through an include root of its
+# own, handed on by linking it, so a folder that is not linked cannot be included by accident.
+
+add_library(zorvane_options INTERFACE)
+target_compile_features(zorvane_options INTERFACE cxx_std_20)
+if(NOT MSVC)
+    target_compile_options(zorvane_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+        $<$<BOOL:${ZORVANE_WARNINGS_AS_ERRORS}>:-Werror>)
+endif()
+if(ZORVANE_SANITIZE)
+    target_compile_options(zorvane_options INTERFACE
+        -fsanitize=${ZORVANE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(zorvane_options INTERFACE -fsanitize=${ZORVANE_SANITIZE})
+endif()
+
+# zorvane_include_root(<target> <folder>): lets users of <target> include "<folder>/X.h".
+function(zorvane_include_root target folder)
+    set(root "${PROJECT_BINARY_DIR}/include/${target}")
+    get_filename_component(parent "${folder}" DIRECTORY)
+    file(MAKE_DIRECTORY "${root}/${parent}")
+    file(CREATE_LINK "${PROJECT_SOURCE_DIR}/${folder}" "${root}/${folder}" SYMBOLIC COPY_ON_ERROR)
+    target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${root}>")
+endfunction()
+
+# zorvane_floor(<name> [FOLDER <folder>] SOURCES <file>... [USES <target>...])
+# The target is zorvane_<name>, with the alias zorvane::<name>; the folder is <name> unless given.
+function(zorvane_floor name)
+    cmake_parse_arguments(PARSE_ARGV 1 FLOOR "" "FOLDER" "SOURCES;USES")
+    if(NOT FLOOR_FOLDER)
+        set(FLOOR_FOLDER ${name})
+    endif()
+    add_library(zorvane_${name} STATIC ${FLOOR_SOURCES})
+    add_library(zorvane::${name} ALIAS zorvane_${name})
+    zorvane_include_root(zorvane_${name} ${FLOOR_FOLDER})
+    target_link_libraries(zorvane_${name} PUBLIC ${FLOOR_USES} PRIVATE zorvane_options)
+    target_compile_features(zorvane_${name} PUBLIC cxx_std_20)
+endfunction()

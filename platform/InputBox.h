@@ -1,0 +1,24 @@
+#pragma once
+
+#include "runtime/Types.h"
+
+namespace zorvane {
+
+/// One question for a line of text. Lives for the duration of the call that asks it.
+struct Question {
+    String prompt; ///< may hold CR LF line breaks
+    String title;
+    String preset; ///< the text that stands in the box at first
+};
+
+/// Asks the operator for a line of text.
+class InputBox {
+  public:
+    virtual ~InputBox() = default;
+
+    /// Called when a command needs a text. Returns what was typed, or empty text when cancelled,
+    /// which is also what a host without an operator answers.
+    virtual String Ask(const Question& /*question*/) { return {}; }
+};
+
+} // namespace zorvane

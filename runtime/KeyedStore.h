@@ -1,0 +1,130 @@
+#pragma once
+
+#include "runtime/RuntimeError.h"
+#include "runtime/Text.h"
+#include "runtime/Types.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <memory>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace zorvane {
+
+/// An ordered store of shared objects. Positions count from 1 and are dense; keys are unique apart
+/// from letter case and are fixed when an entry is added. Looking up by key is a hash look-up.
+///
+/// Errors: 457 for a key that is already present, 5 for an absent key, 9 for a position outside
+/// 1 to Count(). A failed operation changes nothing.
+template <class T>
+class KeyedStore {
+  public:
+    using Pointer = std::shared_ptr<T>;
+
+    Long Count() const { return static_cast<Long>(nodes_.size()); }
+
+    void Append(std::string_view key, Pointer item) { Insert(nodes_.size(), key, std::move(item)); }
+
+    /// Inserts so that the entry stands directly after `position`; position 0 is the front.
+    void InsertAfter(Long position, std::string_view key, Pointer item) {
+        if (position < 0 || position > Count()) Raise(ErrorNumber::SubscriptOutOfRange);
+        Insert(static_cast<std::size_t>(position), key, std::move(item));
+    }
+
+    const Pointer& Item(Long position) const { return nodes_[IndexOf(position)]->item; }
+    const Pointer& Item(std::string_view key) const { return NodeOf(key)->item; }
+
+    /// The object under a key, or null.
+    T* Find(std::string_view key) const {
+        const auto found = byKey_.find(key);
+        return found == byKey_.end() ? nullptr : found->second->item.get();
+    }
+
+    /// The position of a key, or 0.
+    Long PositionOf(std::string_view key) const {
+        const auto found = byKey_.find(key);
+        return found == byKey_.end() ? 0 : PositionOf(found->second);
+    }
+
+    void Remove(Long position) {
+        const auto node = nodes_.begin() + static_cast<std::ptrdiff_t>(IndexOf(position));
+        byKey_.erase((*node)->key);
+        nodes_.erase(node);
+    }
+    void Remove(std::string_view key) { Remove(PositionOf(NodeOf(key))); }
+
+    void Clear() {
+        byKey_.clear();
+        nodes_.clear();
+    }
+
+  private:
+    struct Node {
+        String key;
+        Pointer item;
+    };
+    struct Hash {
+        std::size_t operator()(std::string_view key) const { return HashNoCase(key); }
+    };
+    struct Equal {
+        bool operator()(std::string_view a, std::string_view b) const { return EqualNoCase(a, b); }
+    };
+    using Nodes = std::vector<std::unique_ptr<Node>>;
+
+  public:
+    /// Walks the objects in order; dereferences to the shared pointer.
+    class Iterator {
+      public:
+        using iterator_category = std::forward_iterator_tag;
+        using value_type = Pointer;
+        using difference_type = std::ptrdiff_t;
+        using pointer = const Pointer*;
+        using reference = const Pointer&;
+
+        Iterator() = default;
+        explicit Iterator(typename Nodes::const_iterator at) : at_(at) {}
+        reference operator*() const { return (*at_)->item; }
+        pointer operator->() const { return &(*at_)->item; }
+        Iterator& operator++() { return ++at_, *this; }
+        Iterator operator++(int) { return Iterator(at_++); }
+        friend bool operator==(const Iterator&, const Iterator&) = default;
+
+      private:
+        typename Nodes::const_iterator at_;
+    };
+    Iterator begin() const { return Iterator(nodes_.begin()); }
+    Iterator end() const { return Iterator(nodes_.end()); }
+
+  private:
+    void Insert(std::size_t index, std::string_view key, Pointer item) {
+        if (byKey_.contains(key)) Raise(ErrorNumber::DuplicateKey);
+        auto node = std::make_unique<Node>(Node{String(key), std::move(item)});
+        // The map's keys look into the nodes, which never move.
+        byKey_.emplace(node->key, node.get());
+        nodes_.insert(nodes_.begin() + static_cast<std::ptrdiff_t>(index), std::move(node));
+    }
+
+    std::size_t IndexOf(Long position) const {
+        if (position < 1 || position > Count()) Raise(ErrorNumber::SubscriptOutOfRange);
+        return static_cast<std::size_t>(position - 1);
+    }
+    Node* NodeOf(std::string_view key) const {
+        const auto found = byKey_.find(key);
+        if (found == byKey_.end()) Raise(ErrorNumber::InvalidProcedureCall);
+        return found->second;
+    }
+    Long PositionOf(const Node* node) const {
+        const auto found = std::find_if(nodes_.begin(), nodes_.end(),
+                                        [node](const auto& each) { return each.get() == node; });
+        return static_cast<Long>(found - nodes_.begin()) + 1;
+    }
+
+    Nodes nodes_;
+    std::unordered_map<std::string_view, Node*, Hash, Equal> byKey_;
+};
+
+} // namespace zorvane

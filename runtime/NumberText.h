@@ -1,0 +1,36 @@
+#pragma once
+
+#include "runtime/Types.h"
+
+#include <string_view>
+
+/// Numbers to text and back, always with "." as the decimal separator.
+namespace zorvane {
+
+/// The value written with a picture of digits 0 and #, at most one point and an optional leading
+/// sign ("0.00", "0.0#", "+0"). Every 0 stands for a digit that is always written, every # for one
+/// that is left out when it would be an outer zero. Rounds half away from zero on the value's
+/// 15-digit decimal form; a result of zero has no minus sign.
+String FormatPicture(Double value, std::string_view picture);
+
+/// The shortest general number text with at most 15 significant digits: "3", "2.5", "1E+15".
+String GeneralText(Double value);
+
+/// The shortest decimal text that reads back as the same Single, in the form of GeneralText.
+String SingleText(Single value);
+
+/// The number at the start of a text, after blanks: sign, digits, point, exponent. 0 when the text
+/// does not begin with one. Error 6 when the number is too large for a Double.
+Double LeadingNumber(std::string_view text);
+
+/// LeadingNumber held as a Single; error 6 when it is too large for one.
+Single LeadingSingle(std::string_view text);
+
+/// True when the whole text, blanks around it apart, is one decimal number.
+Boolean IsNumber(std::string_view text);
+
+/// The whole text as a 32-bit number: decimal (halves to even) or hexadecimal with the prefix "&H".
+/// Error 13 when it is no number, 6 when it does not fit.
+Long ParseLong(std::string_view text);
+
+} // namespace zorvane

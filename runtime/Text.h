@@ -1,0 +1,46 @@
+#pragma once
+
+#include "runtime/Types.h"
+
+#include <cstddef>
+#include <string_view>
+
+/// Letter case and character counting. Case is folded for ASCII letters only; a character is a
+/// UTF-8 code point, or a single byte where the bytes are not valid UTF-8.
+namespace zorvane {
+
+constexpr char ToLowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
+constexpr char ToUpperAscii(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; }
+
+String UpperText(std::string_view text);
+String LowerText(std::string_view text);
+
+/// True when both texts are the same apart from letter case.
+bool EqualNoCase(std::string_view a, std::string_view b);
+
+/// True when the text begins with the prefix apart from letter case.
+bool StartsWithNoCase(std::string_view text, std::string_view prefix);
+
+/// A hash that agrees with EqualNoCase.
+std::size_t HashNoCase(std::string_view text);
+
+/// The first character of a text: its code (a code point, or the byte where the text is not valid
+/// UTF-8) and how many bytes it takes. An empty text gives {0, 0}.
+struct CharacterAt {
+    Long code = 0;
+    std::size_t bytes = 0;
+    bool valid = true; ///< false when the byte is not part of a valid UTF-8 sequence
+};
+CharacterAt FirstCharacter(std::string_view text);
+
+/// The number of characters in a text.
+Long CharacterCount(std::string_view text);
+
+/// A code point as UTF-8.
+String EncodeUtf8(Long code);
+
+/// The text with every byte that is not valid UTF-8, and every control character that XML and
+/// terminals do not take, replaced by U+FFFD. For showing, never for storing.
+String PrintableUtf8(std::string_view text);
+
+} // namespace zorvane
