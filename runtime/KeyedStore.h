@@ -38,6 +38,9 @@ class KeyedStore {
     const Pointer& Item(Long position) const { return nodes_[IndexOf(position)]->item; }
     const Pointer& Item(std::string_view key) const { return NodeOf(key)->item; }
 
+    /// The key that the entry at a position was added under.
+    const String& KeyAt(Long position) const { return nodes_[IndexOf(position)]->key; }
+
     /// The object under a key, or null.
     T* Find(std::string_view key) const {
         const auto found = byKey_.find(key);
