@@ -19,6 +19,8 @@ const char* DescriptionOf(ErrorNumber number) noexcept {
         return "Division by zero";
     case ErrorNumber::TypeMismatch:
         return "Type mismatch";
+    case ErrorNumber::BadFileNumber:
+        return "Bad file name or number";
     case ErrorNumber::FileNotFound:
         return "File not found";
     case ErrorNumber::DeviceError:

@@ -13,6 +13,7 @@ enum class ErrorNumber : Long {
     SubscriptOutOfRange = 9,
     DivisionByZero = 11,
     TypeMismatch = 13,
+    BadFileNumber = 52,
     FileNotFound = 53,
     DeviceError = 57,
     InputPastEnd = 62,

@@ -20,6 +20,21 @@ std::size_t SequenceLength(unsigned char first) {
 
 } // namespace
 
+std::string_view TrimStart(std::string_view text) {
+    std::size_t start = 0;
+    while (start < text.size() && IsBlank(text[start]))
+        ++start;
+    return text.substr(start);
+}
+
+std::string_view TrimEnd(std::string_view text) {
+    while (!text.empty() && IsBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+std::string_view Trim(std::string_view text) { return TrimEnd(TrimStart(text)); }
+
 String UpperText(std::string_view text) {
     String result(text);
     std::transform(result.begin(), result.end(), result.begin(), ToUpperAscii);

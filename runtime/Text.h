@@ -12,6 +12,14 @@ namespace zorvane {
 constexpr char ToLowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
 constexpr char ToUpperAscii(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; }
 
+/// A blank is a space, TAB, CR or LF.
+constexpr bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+
+/// The part of the text that is left when blanks are taken off its start, its end, or both.
+std::string_view TrimStart(std::string_view text);
+std::string_view TrimEnd(std::string_view text);
+std::string_view Trim(std::string_view text);
+
 String UpperText(std::string_view text);
 String LowerText(std::string_view text);
 

@@ -1,5 +1,5 @@
-#include "Raised.h"
 #include "runtime/Checked.h"
+#include "Raised.h"
 #include "runtime/Rounding.h"
 
 #include <gtest/gtest.h>
