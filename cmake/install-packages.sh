@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that the build needs and that this machine lacks. With none missing it
+# does nothing and needs no network. Without the right to install it names what is missing and fails.
+set -euo pipefail
+
+packages=(
+    g++ cmake ninja-build
+    qt6-base-dev qt6-tools-dev qt6-svg-dev
+    libcli11-dev libgtest-dev
+    fonts-dejavu-core # text on a machine that has no font yet
+)
+
+is_installed() {
+    [ "$(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+missing=()
+for package in "${packages[@]}"; do
+    is_installed "$package" || missing+=("$package")
+done
+if [ "${#missing[@]}" -eq 0 ]; then
+    exit 0
+fi
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    if ! sudo -n true 2>/dev/null; then
+        echo "These packages are missing, and this user may not install them: ${missing[*]}" >&2
+        echo "Ask for: apt-get install --no-install-recommends ${missing[*]}" >&2
+        exit 1
+    fi
+    as_root=(sudo -n)
+fi
+
+echo "Installing: ${missing[*]}" >&2
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
