@@ -35,6 +35,11 @@ class KeyedStore {
         Insert(static_cast<std::size_t>(position), key, std::move(item));
     }
 
+    /// Inserts so that the entry takes the place of the one at `position`.
+    void InsertBefore(Long position, std::string_view key, Pointer item) {
+        Insert(IndexOf(position), key, std::move(item));
+    }
+
     const Pointer& Item(Long position) const { return nodes_[IndexOf(position)]->item; }
     const Pointer& Item(std::string_view key) const { return NodeOf(key)->item; }
 
@@ -43,8 +48,14 @@ class KeyedStore {
 
     /// The object under a key, or null.
     T* Find(std::string_view key) const {
+        const Pointer* const found = FindShared(key);
+        return found ? found->get() : nullptr;
+    }
+
+    /// The place of the shared object under a key, or null. Good until the entry is removed.
+    const Pointer* FindShared(std::string_view key) const {
         const auto found = byKey_.find(key);
-        return found == byKey_.end() ? nullptr : found->second->item.get();
+        return found == byKey_.end() ? nullptr : &found->second->item;
     }
 
     /// The position of a key, or 0.

@@ -63,10 +63,10 @@ class TextFile::LineBuffer {
 
     void Seek(FilePosition position) {
         if (position < 0) Raise(ErrorNumber::InvalidProcedureCall);
-        if (position >= blockStart_ && position <= blockStart_ + (end_ - block_.data()))
-            SeekInBlock(block_.data() + (position - blockStart_));
-        else
-            SeekInFile(position);
+        const FilePosition offset = position - blockStart_;
+        const bool inBlock = offset >= 0 && offset <= end_ - block_.data();
+        if (!inBlock) return SeekInFile(position);
+        SeekInBlock(block_.data() + offset);
     }
 
   private:

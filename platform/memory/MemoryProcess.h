@@ -38,7 +38,7 @@ class MemoryScreen final : public Screen {
 };
 
 /// A process without a desktop, for tests and headless programs.
-class MemoryProcess final : public Process {
+class MemoryProcess : public Process {
   public:
     MessageDisplay& Messages() override { return messages; }
     Screen& TheScreen() override { return screen; }

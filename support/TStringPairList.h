@@ -1,0 +1,66 @@
+#pragma once
+
+#include "runtime/KeyedStore.h"
+#include "runtime/Types.h"
+#include "support/TStringPair.h"
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace zorvane {
+
+/// An ordered list of shared name/value pairs, unique by the names they are added with, compared
+/// without regard to case. Positions count from 1.
+///
+/// Errors of look-ups: 5 for an absent name, 9 for a position outside 1 to Count().
+class TStringPairList {
+  public:
+    /// What Value gives for an absent name when ErrorOnFail is false.
+    static constexpr const char* kMissingValue = "\x1B\x1B";
+
+    String Name;
+    /// When false, a failed look-up by Pair yields no pair instead of an error.
+    Boolean ErrorOnFail = true;
+    /// Set by Add and by a Value that differs, never by a removal; the owner clears it.
+    Boolean DataChanged = false;
+
+    /// Takes over the source's members and copies of its pairs.
+    void Copy(const TStringPairList& source);
+    void Clear() { pairs_.Clear(); }
+
+    /// Adds the pair at the end (0), in front (negative) or after a position, replacing a pair of
+    /// the same name, and returns it. A failure is shown in a message box and gives null; a pair
+    /// that was to be replaced is then gone.
+    std::shared_ptr<TStringPair> Add(std::shared_ptr<TStringPair> pair, Integer afterIndex = 0);
+
+    std::shared_ptr<TStringPair> Pair(Long position) const;
+    std::shared_ptr<TStringPair> Pair(std::string_view name) const;
+
+    String Value(std::string_view name) const;
+    /// Sets the value of a pair; an absent one is appended.
+    void Value(std::string_view name, std::string_view newValue);
+
+    /// The first position whose pair has this name at present; 0 when there is none.
+    Integer IndexOf(std::string_view name) const;
+    Long Count() const { return pairs_.Count(); }
+
+    void Remove(Long position) { pairs_.Remove(position); }
+    void Remove(std::string_view name) { pairs_.Remove(name); }
+
+    /// The shared pairs in list order.
+    auto begin() const { return pairs_.begin(); }
+    auto end() const { return pairs_.end(); }
+
+    /// One line for each pair: name, TAB, value in double quotes, CR LF.
+    String TextTable() const;
+    /// The names in list order; error 9 for an empty list.
+    std::vector<String> VariableNames() const;
+
+  private:
+    void Insert(const std::shared_ptr<TStringPair>& pair, Integer afterIndex, Long count);
+
+    KeyedStore<TStringPair> pairs_;
+};
+
+} // namespace zorvane

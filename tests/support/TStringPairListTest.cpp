@@ -1,0 +1,160 @@
+#include "support/TStringPairList.h"
+
+#include "Raised.h"
+#include "TestProcess.h"
+
+#include <gtest/gtest.h>
+
+namespace zorvane {
+namespace {
+
+std::shared_ptr<TStringPair> NewPair(const String& name, const String& value = {}) {
+    return std::make_shared<TStringPair>(name, value);
+}
+
+/// The list in one line: "a=1 b=2".
+String Content(const TStringPairList& list) {
+    String content;
+    for (const auto& pair : list)
+        content += (content.empty() ? "" : " ") + pair->Name() + "=" + pair->Value();
+    return content;
+}
+
+class PairList : public testing::Test {
+  protected:
+    PairList() {
+        for (const char* const name : {"a", "b", "c"})
+            list.Add(NewPair(name, "1"));
+        list.DataChanged = false;
+    }
+
+    TestProcess process;
+    TStringPairList list;
+};
+
+TEST_F(PairList, PlacesWhatIsAdded) {
+    const struct {
+        const char* name;
+        Integer afterIndex;
+        const char* content;
+    } rows[] = {{"d", 0, "a=1 b=1 c=1 d=2"},  {"d", -1, "d=2 a=1 b=1 c=1"},
+                {"d", -9, "d=2 a=1 b=1 c=1"}, {"d", 2, "a=1 b=1 d=2 c=1"},
+                {"d", 3, "a=1 b=1 c=1 d=2"},  {"B", 0, "a=1 c=1 B=2"},
+                {"B", -1, "B=2 a=1 c=1"},     {"A", 2, "b=1 c=1 A=2"}};
+    for (const auto& row : rows) {
+        TStringPairList each;
+        each.Copy(list);
+        const auto pair = NewPair(row.name, "2");
+        EXPECT_EQ(each.Add(pair, row.afterIndex), pair);
+        EXPECT_EQ(Content(each), row.content) << row.name << " after " << row.afterIndex;
+        EXPECT_TRUE(each.DataChanged);
+    }
+}
+
+TEST_F(PairList, ShowsWhyNothingWasAdded) {
+    const char* const outOfRange = "Error number 9\r\nSubscript out of range";
+    process.messages.Expect(outOfRange);
+    EXPECT_EQ(list.Add(NewPair("d"), 5), nullptr);
+    EXPECT_EQ(process.messages.shown.at(0).title, "Error in Zorvane.TStringPairList.Add()");
+    process.messages.Expect("Error number 91\r\nObject variable not set");
+    EXPECT_EQ(list.Add(nullptr), nullptr);
+    EXPECT_EQ(Content(list), "a=1 b=1 c=1");
+
+    // The place is chosen before the old pair goes, and is then one too far, or none at all.
+    process.messages.Expect(outOfRange);
+    EXPECT_EQ(list.Add(NewPair("b"), 3), nullptr);
+    EXPECT_EQ(Content(list), "a=1 c=1");
+    for (const Integer afterIndex : {Integer{1}, Integer{-1}}) {
+        TStringPairList single;
+        single.Add(NewPair("x"));
+        single.DataChanged = false;
+        process.messages.Expect(outOfRange);
+        EXPECT_EQ(single.Add(NewPair("X"), afterIndex), nullptr);
+        EXPECT_EQ(single.Count(), 0);
+        EXPECT_FALSE(single.DataChanged);
+    }
+    EXPECT_FALSE(list.DataChanged);
+}
+
+TEST_F(PairList, AddsAPairAgainThatItHolds) {
+    list.Add(*list.begin());
+    EXPECT_EQ(Content(list), "b=1 c=1 a=1");
+}
+
+TEST_F(PairList, LooksUpByPositionAndName) {
+    EXPECT_EQ(list.Pair(Integer{2})->Name(), "b");
+    EXPECT_EQ(list.Pair("C"), list.Pair(3));
+    list.Pair("a")->Value("7");
+    EXPECT_EQ(list.Value("A"), "7");
+    EXPECT_EQ(NumberRaisedBy([&] { list.Pair("d"); }), 5);
+    EXPECT_EQ(NumberRaisedBy([&] { list.Pair(0); }), 9);
+    EXPECT_EQ(NumberRaisedBy([&] { list.Pair(4); }), 9);
+    EXPECT_EQ(NumberRaisedBy([&] { list.Value("d"); }), 5);
+
+    list.ErrorOnFail = false;
+    EXPECT_EQ(list.Pair("d"), nullptr);
+    EXPECT_EQ(list.Pair(0), nullptr);
+    EXPECT_EQ(list.Pair(4), nullptr);
+    EXPECT_EQ(list.Value("d"), "\x1B\x1B");
+}
+
+TEST_F(PairList, AssignsValues) {
+    list.Value("B", "1");
+    EXPECT_FALSE(list.DataChanged);
+    list.Value("B", "2");
+    EXPECT_TRUE(list.DataChanged);
+    list.DataChanged = false;
+    list.Value("New", "3");
+    EXPECT_TRUE(list.DataChanged);
+    EXPECT_EQ(Content(list), "a=1 b=2 c=1 New=3");
+}
+
+TEST_F(PairList, FindsPositionsByPresentNamesAndPairsByFirstNames) {
+    list.Pair("b")->Name("Renamed");
+    EXPECT_EQ(list.IndexOf("RENAMED"), 2);
+    EXPECT_EQ(list.IndexOf("b"), 0);
+    EXPECT_EQ(list.Pair("b")->Name(), "Renamed");
+    list.Pair("c")->Name("A");
+    EXPECT_EQ(list.IndexOf("a"), 1);
+    // Copying adds each pair under its present name, so that the second A replaces the first.
+    TStringPairList copy;
+    copy.Copy(list);
+    EXPECT_EQ(Content(copy), "Renamed=1 A=1");
+}
+
+TEST_F(PairList, RemovesWithoutCountingItAsAChange) {
+    list.Remove(1);
+    list.Remove("C");
+    EXPECT_EQ(Content(list), "b=1");
+    EXPECT_EQ(NumberRaisedBy([&] { list.Remove("c"); }), 5);
+    EXPECT_EQ(NumberRaisedBy([&] { list.Remove(2); }), 9);
+    list.Clear();
+    EXPECT_EQ(list.Count(), 0);
+    EXPECT_FALSE(list.DataChanged);
+}
+
+TEST_F(PairList, CopiesPairsAndMembers) {
+    list.Name = "Tags";
+    list.ErrorOnFail = false;
+    TStringPairList copy;
+    copy.Add(NewPair("old"));
+    copy.Copy(list);
+    EXPECT_EQ(Content(copy), Content(list));
+    EXPECT_NE(copy.Pair(1), list.Pair(1));
+    EXPECT_EQ(copy.Name, "Tags");
+    EXPECT_FALSE(copy.ErrorOnFail);
+    EXPECT_FALSE(copy.DataChanged);
+}
+
+TEST_F(PairList, ListsItselfAsText) {
+    TStringPairList other;
+    EXPECT_EQ(other.TextTable(), "");
+    EXPECT_EQ(NumberRaisedBy([&] { other.VariableNames(); }), 9);
+    other.Add(NewPair("X y", "a\"b"));
+    other.Add(NewPair("Z"));
+    EXPECT_EQ(other.TextTable(), "X y\t\"a\"\"b\"\r\nZ\t\"\"\r\n");
+    EXPECT_EQ(other.VariableNames(), (std::vector<String>{"X y", "Z"}));
+}
+
+} // namespace
+} // namespace zorvane
