@@ -3,6 +3,7 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Types.h"
 
+#include <compare>
 #include <concepts>
 #include <cstdint>
 #include <limits>
@@ -41,6 +42,7 @@ class CheckedNumber {
     friend constexpr CheckedNumber operator%(CheckedNumber a, CheckedNumber b) {
         return a.Wide() % b.Divisor();
     }
+    friend constexpr auto operator<=>(CheckedNumber, CheckedNumber) = default;
 
   private:
     constexpr std::int64_t Wide() const { return value_; }

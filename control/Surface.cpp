@@ -1,0 +1,60 @@
+#include "control/Surface.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zorvane {
+
+Surface::Surface() {
+    fraPlate.visible = true;
+    fraData.box = {45, 45, 2775, 4740};
+    cmdData.box = {120, 240, 240, 240};
+    cmdData.caption = "?";
+    StyleRim.box = {1380, 735, 255, 255};
+    StyleWell.box = {1440, 795, 135, 135};
+    CreateWells(1);
+    CreateLegends(1);
+}
+
+void Surface::CreateWells(std::size_t count) {
+    if (count <= WellRim.size()) return;
+    WellRim.resize(count);
+    WellBottom.resize(count);
+    WellText.resize(count);
+    WellTag.resize(count);
+}
+
+void Surface::DestroyWellsFrom(std::size_t count) {
+    const std::size_t kept = std::max<std::size_t>(count, 1);
+    if (WellRim.size() <= kept) return;
+    WellRim.resize(kept);
+    WellBottom.resize(kept);
+    WellText.resize(kept);
+    WellTag.resize(kept);
+}
+
+void Surface::CreateLegends(std::size_t count) {
+    if (count <= lblWell.size()) return;
+    Label design;
+    design.box = {60, 210, 165, 195};
+    lblWell.resize(count, design);
+}
+
+Rect Surface::WellBox(std::size_t wellNo) const {
+    const Rect shapes = Union(WellRim[wellNo].box, WellBottom[wellNo].box);
+    return WellText[wellNo].visible ? Union(shapes, WellText[wellNo].box) : shapes;
+}
+
+std::pair<Integer, Integer> Surface::Touched(const PaintRun& run, const Rect& area) const {
+    if (!run.bounds.Intersects(area)) return {Integer{0}, Integer{0}};
+    if (run.pitch < 1) return {Integer{0}, run.count};
+
+    const Rect first = WellBox(static_cast<std::size_t>(run.first));
+    const auto clamped = [&run](Double column) {
+        return static_cast<Integer>(std::clamp(column, 0.0, static_cast<Double>(run.count)));
+    };
+    return {clamped(std::floor((Double{area.left} - first.Right()) / run.pitch)),
+            clamped(std::ceil((Double{area.Right()} - first.left) / run.pitch))};
+}
+
+} // namespace zorvane
