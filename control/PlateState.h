@@ -1,0 +1,91 @@
+#pragma once
+
+#include "control/PlateTypes.h"
+#include "control/WellRecords.h"
+#include "model/cmPlate.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Types.h"
+
+#include <memory>
+
+namespace zorvane {
+
+/// The fields of a Plate that the host reads and writes directly; none has a side effect.
+struct PlateFields {
+    String FileName; ///< plate library from which SetPlate loads
+    Integer Status = 0;
+    Boolean MultipleSelect = false; ///< more than one well may be selected at a time
+    Boolean DragDrop = false;       ///< a press on a selected well begins a move, not a selection
+    Integer Cols = 0;
+    Integer Rows = 0;
+    Integer SubWellCount = 0;
+    Single XPitch = 0;        ///< column spacing, mm
+    Single YPitch = 0;        ///< row spacing, mm
+    Single xOverall = 0;      ///< plate width, mm
+    Single yOverall = 0;      ///< plate depth, mm
+    Single PHeight = 0;       ///< plate height, mm
+    Single XLeft = 0;         ///< plate x of column 0, mm
+    Single YTop = 0;          ///< plate y of row 0, mm
+    Single ZClear = 0;        ///< height that clears the plate, mm
+    Boolean FixedSize = true; ///< the drawing is fitted to the control instead of the reverse
+    Boolean Dirty = false;
+    Long DefaultSelectColor = 0x808080; ///< rim of a selected well
+    Boolean HorizontalCentred = false;  ///< with FixedSize
+    Boolean VerticalCentred = false;    ///< with FixedSize
+    Long DefinedWellColor = 0;          ///< bottom of a defined well without error
+    Long ErrorWellColor = 0;            ///< bottom of a defined well with an error code
+    Long SelectedColor = kButtonShadow; ///< plate area while the control is marked Selected
+    Long DeselectedColor = kButtonFace; ///< plate area otherwise
+};
+
+/// The whole state of one control. The parts of the control (layout, selection, gestures, well
+/// data, array fill) share it; hosts reach the fields below through the properties of Plate.
+struct PlateState : PlateFields {
+    Integer CurrentWell = 0; ///< well number, from 0
+    Integer Row = 0;         ///< row of the current well, from 0
+    Integer Col = 0;         ///< column of the current well, from 0
+    Integer WellIndex = 0;   ///< sub-well position of the current well, from 1; 0 for none chosen
+    Boolean Selected = false;
+    String PlateName;
+    Single DrawingScale = 50; ///< drawing units per millimetre
+    Integer TotalWells = 0;
+    Integer NSelected = 0;
+    Boolean PlateLoaded = false;
+    Long DefaultWellColor = 0xE0E0E0;
+    Long DefaultRimColor = 0xE0E0E0;
+    Boolean LayoutBusy = false; ///< sub-well edits are pending: the hit test answers -1
+    Integer ArrayX = 0;
+    Integer ArrayY = 0;
+    Integer ArrayWidth = 0;
+    Integer ArrayHeight = 0;
+    String ArraySubwell; ///< stays empty
+    Long ArrayDirection = foTopLeftHorizontal;
+    Boolean SelectBoxEnabled = false;
+    std::unique_ptr<cmPlate> PlateDef;
+    WellRecords Wells;
+    Integer WellsAllocated = 0;
+    Integer WellElements = 0; ///< well element triples laid out by the previous layout
+    Integer SavedHeight = 0;  ///< control height before the details panel was opened
+    Integer GridTop = 0;      ///< drawing units, as the next three
+    Integer GridLeft = 0;
+    Integer ColumnPitch = 0;
+    Integer RowPitch = 0;
+    Single PixelWidth = 0; ///< one screen pixel in drawing units
+    Single PixelHeight = 0;
+    Integer LabelCount = 0; ///< legends in use, the measuring stick included
+    Single DragAnchorX = 0;
+    Single DragAnchorY = 0;
+    Single DragLastX = 0;
+    Single DragLastY = 0;
+    Boolean AreaSelect = false;
+    Boolean Dragging = false;
+    String DefaultFileName;
+
+    /// The loaded definition; error 91 before the first load.
+    cmPlate& Definition() const {
+        if (!PlateDef) Raise(ErrorNumber::ObjectNotSet);
+        return *PlateDef;
+    }
+};
+
+} // namespace zorvane
