@@ -2,6 +2,8 @@
 
 #include "runtime/Types.h"
 
+#include <string_view>
+
 namespace zorvane {
 
 /// The geometry and volumes of one sub-well: one named cavity that every well position of a plate
@@ -11,7 +13,7 @@ class WellDetails {
   public:
     /// The name of the sub-well inside its well position.
     const String& WellName() const { return wellName_; }
-    void WellName(const String& value) { wellName_ = value; }
+    void WellName(std::string_view value) { wellName_ = value; }
 
     /// The style code that the sub-well is drawn with; see cmPlate::StyleText.
     Long Style() const { return style_; }

@@ -39,7 +39,7 @@ class cmPlate {
 
     // --- Plain values, not recorded ---
 
-    const String& PlateName() const { return plateName_; }
+    String PlateName() const { return plateName_; }
     void PlateName(const String& value) { plateName_ = value; }
     /// A status code; 0 once a definition begins to be read.
     Integer Status() const { return status_; }
@@ -78,16 +78,16 @@ class cmPlate {
     void ShelfDepth(Single value);
     /// The label of the first column and of the first row. "1", "a" and "A" count upwards from
     /// there, any other label downwards.
-    const String& ColumnLabel() const { return columnLabel_; }
+    String ColumnLabel() const { return columnLabel_; }
     void ColumnLabel(const String& value);
-    const String& RowLabel() const { return rowLabel_; }
+    String RowLabel() const { return rowLabel_; }
     void RowLabel(const String& value);
 
     // --- The current sub-well's values, recorded under "<SubWell>.<NAME>" ---
     // Error 5 when SubWell names no sub-well of the layout.
 
     /// The name of the sub-well that the members below address.
-    const String& SubWell() const { return subWell_; }
+    String SubWell() const { return subWell_; }
     void SubWell(const String& value) { subWell_ = value; }
 
     /// The capacity of the current sub-well.
@@ -131,9 +131,9 @@ class cmPlate {
 
     /// Sets a recorded property. A new one is placed by position as TStringPairList::Add does; one
     /// that is there keeps its place.
-    void SetProperty(const String& name, const String& value, Integer position = 0);
+    void SetProperty(std::string_view name, std::string_view value, Integer position = 0);
     /// The value of a recorded property; error 91 when there is none.
-    String GetProperty(const String& name) const;
+    String GetProperty(std::string_view name) const;
     /// The values of the tags, separated by single spaces.
     String TagListText() const;
 
@@ -191,7 +191,7 @@ class cmPlate {
     Integer ReadNextPlate(TextFile& file, const String& name = {});
     /// Loads one definition from text with CR LF line ends; stops at the first unknown keyword.
     /// What the text does not mention keeps its value.
-    void SetFromText(const String& text);
+    void SetFromText(String text);
     /// Finds a plate by name, apart from letter case, in a library file and loads it. Shows a
     /// message and answers false when it cannot; this object then holds the last plate read.
     Boolean SetPlate(const String& fileName, const String& plateName);
@@ -217,18 +217,27 @@ class cmPlate {
         bool inPlate = false;
         std::shared_ptr<WellDetails> subWell;
         String prefix;
-        // Keep their storage, so that reading a line allocates nothing.
+        // Two texts that keep their storage, so that reading a line allocates nothing.
         String line;
-        String name;
-        String value;
+        String propertyName;
     };
 
-    static Integer DirectionOf(const String& label);
+    static Integer DirectionOf(std::string_view label);
     static String SubWellText(const WellDetails& subWell, std::string_view indent);
 
     std::shared_ptr<WellDetails> Current() const { return layout_->Item(subWell_); }
-    void RecordCurrent(std::string_view name, const String& value);
-    void ParsePlateLine(std::string_view line, Long& code);
+    void RecordCurrent(std::string_view name, std::string_view value);
+    void RecordLikeParent(const String& name, const String& parentPrefix);
+    void RenameBlock(const WellDetails& subWell, const String& newName);
+    void Rotate90(const WellDetails& well);
+
+    /// Forgets the line that was read last, and the tags.
+    void BeginReading();
+    /// Applies one line of a definition, its TABs already spaces; the result is a LineCode.
+    Long ParsePlateLine(std::string_view line);
+    /// Applies the lines of a text for as long as the codes of the lines are at most this one.
+    void ReadLines(std::string_view text, Long lastCode);
+    Integer ReadPlate(TextFile& file);
 
     String plateName_;
     Integer status_ = 0;

@@ -1,0 +1,111 @@
+#include "model/LabelText.h"
+#include "model/cmPlate.h"
+#include "runtime/Checked.h"
+#include "runtime/NumberText.h"
+
+#include <algorithm>
+
+/// Moving and turning the layout, and where a well lies.
+namespace zorvane {
+
+namespace {
+
+struct Envelope {
+    Double left;
+    Double top;
+    Double right;
+    Double bottom;
+};
+
+Envelope EnvelopeOf(const WellDetails& well, Double rimY) {
+    const Double x = Double{well.xOffset()} + well.RimCenterX();
+    const Double y = Double{well.yOffset()} + well.RimCenterY();
+    const Double halfX = Double{well.WellSizeX()} / 2 + well.RimWidth();
+    const Double halfY = Double{well.WellSizeY()} / 2 + rimY;
+    return {x - halfX, y - halfY, x + halfX, y + halfY};
+}
+
+void Extend(Envelope& envelope, const Envelope& by) {
+    envelope.left = std::min(envelope.left, by.left);
+    envelope.top = std::min(envelope.top, by.top);
+    envelope.right = std::max(envelope.right, by.right);
+    envelope.bottom = std::max(envelope.bottom, by.bottom);
+}
+
+/// The first row label after a quarter turn: the old columns become rows counted from the far side.
+String TurnedLabel(std::string_view columnLabel, Integer rows) {
+    if (IsNumber(columnLabel)) return GeneralText(rows + 1 - LeadingNumber(columnLabel));
+    const CharacterAt first = LabelCharacter(columnLabel);
+    return LabelText(Checked(rows) - Checked(first.code) + 2 * 'A' - 1, first);
+}
+
+} // namespace
+
+void cmPlate::ShiftWells(Single dX, Single dY, Single dZ) {
+    for (const auto& well : *layout_) {
+        SubWell(well->WellName());
+        xOffset(well->xOffset() + dX);
+        yOffset(well->yOffset() + dY);
+        Depth(well->Depth() - dZ);
+    }
+}
+
+void cmPlate::Rotate90() {
+    const Integer oldRows = rows_;
+    const Single oldXOverall = xOverall_;
+    const Single oldXPitch = xPitch_;
+    const String oldColumnLabel = columnLabel_;
+    Rows(cols_);
+    Cols(oldRows);
+    xOverall(yOverall_);
+    yOverall(oldXOverall);
+    XPitch(yPitch_);
+    YPitch(oldXPitch);
+    ColumnLabel(String(rowLabel_));
+    RowLabel(TurnedLabel(oldColumnLabel, rows_));
+    for (const auto& well : *layout_)
+        Rotate90(*well);
+}
+
+void cmPlate::Rotate90(const WellDetails& well) {
+    const WellDetails old = well;
+    const Double lastRow = (Checked(rows_) - 1).Value();
+    SubWell(old.WellName());
+    xOffset(old.yOffset());
+    yOffset(static_cast<Single>(Double{yOverall_} - old.xOffset() - lastRow * yPitch_));
+    RimHeight(old.RimWidth());
+    RimWidth(old.RimHeight());
+    RimCenterX(old.RimCenterY());
+    RimCenterY(-old.RimCenterX());
+}
+
+void cmPlate::Rotate(Integer /*angle*/) {}
+
+void cmPlate::WellEnvelope(Integer row, Integer col, Coordinate& minCorner,
+                           Coordinate& maxCorner) const {
+    // Only the first sub-well's rim counts along Y with its width: hosts know these envelopes.
+    const auto first = layout_->Item(1);
+    Envelope envelope = EnvelopeOf(*first, first->RimWidth());
+    for (Long position = 2; position <= layout_->Count(); ++position) {
+        const auto well = layout_->Item(position);
+        Extend(envelope, EnvelopeOf(*well, well->RimHeight()));
+    }
+    const Double x = Double{xPitch_} * col;
+    const Double y = Double{yPitch_} * row;
+    minCorner.X(static_cast<Single>(envelope.left + x));
+    minCorner.Y(static_cast<Single>(envelope.top + y));
+    maxCorner.X(static_cast<Single>(envelope.right + x));
+    maxCorner.Y(static_cast<Single>(envelope.bottom + y));
+}
+
+Coordinate cmPlate::WellCentroid(Integer row, Integer col) const {
+    Coordinate minCorner;
+    Coordinate maxCorner;
+    WellEnvelope(row, col, minCorner, maxCorner);
+    Coordinate centroid;
+    centroid.X(static_cast<Single>((Double{minCorner.X()} + maxCorner.X()) / 2));
+    centroid.Y(static_cast<Single>((Double{minCorner.Y()} + maxCorner.Y()) / 2));
+    return centroid;
+}
+
+} // namespace zorvane

@@ -1,0 +1,37 @@
+#include "model/cmPlate.h"
+#include "platform/Process.h"
+#include "runtime/RuntimeError.h"
+
+/// Finding a plate by name in a library file.
+namespace zorvane {
+
+namespace {
+
+constexpr Integer kOtherPlate = 1;
+
+/// Reads plates until one has the name; false when the reading stops before.
+bool ReadUntilFound(cmPlate& plate, TextFile& file, const String& plateName) {
+    for (;;) {
+        const Integer result = plate.ReadNextPlate(file, plateName);
+        if (result == 0) return true;
+        if (result != kOtherPlate || file.AtEnd()) return false;
+    }
+}
+
+} // namespace
+
+Boolean cmPlate::SetPlate(const String& fileName, const String& plateName) {
+    if (plateName.empty() || fileName.empty()) return false;
+    String failure = "Can't find Plate <" + plateName + "> in " + fileName;
+    try {
+        TextFile file;
+        file.OpenInput(fileName);
+        if (ReadUntilFound(*this, file, plateName)) return true;
+    } catch (const RuntimeError&) {
+        failure = "Error trying to read \"" + plateName + "\" from <" + fileName + ">";
+    }
+    CurrentProcess().Messages().Show({failure});
+    return false;
+}
+
+} // namespace zorvane
