@@ -1,0 +1,33 @@
+#pragma once
+
+#include "runtime/Types.h"
+
+#include <vector>
+
+namespace zorvane {
+
+/// One plate definition of a library, as it is when read into a new object.
+struct LibraryEntry {
+    String name;
+    Long line = 0; ///< the number of its PLATE line, from 1
+    Integer rows = 0;
+    Integer cols = 0;
+    Long subWells = 0;
+    String tags;        ///< separated by single spaces
+    bool found = false; ///< false when no look-up by name can give this plate
+};
+
+/// The plates of a library in file order, up to where a look-up by name stops reading.
+struct LibraryListing {
+    std::vector<LibraryEntry> plates;
+    /// The number of the line that hides everything after it, and what cmPlate::ReadNextPlate said
+    /// of it; 0 and 0 when the whole file was read.
+    Long stoppedAtLine = 0;
+    Integer code = 0;
+};
+
+/// Reads a library by the rules of the look-up. Errors of TextFile::OpenInput when the file cannot
+/// be opened.
+LibraryListing ListLibrary(const String& fileName);
+
+} // namespace zorvane

@@ -1,0 +1,106 @@
+#include "Raised.h"
+#include "TempFile.h"
+#include "TestProcess.h"
+#include "model/cmPlate.h"
+#include "platetext/Definition.h"
+#include "platetext/LibraryIndex.h"
+
+#include <gtest/gtest.h>
+
+namespace zorvane {
+namespace {
+
+TEST(PlateLibrary, FindsAPlateOrSaysThatItCannot) {
+    const struct {
+        const char* why;
+        String text;
+        const char* name;
+        bool found;
+    } rows[] = {
+        {"the last plate, without a line end", "PLATE A\nROWS 1\nPLATE B\nROWS 2", "B", true},
+        {"another letter case", "PLATE Demo\n", "dEMO", true},
+        {"a prefix is another name", "PLATE Demo1\nPLATE Demo12\n", "Demo", false},
+        {"the first of two, though the second differs", "PLATE A\nEND\nPLATE B\nEND\n", "A", true},
+        {"behind an END", "PLATE A\nEND\nPLATE B\nEND\n", "B", false},
+        {"behind a stray line", "PLATE A\nINCLUDE x\nPLATE B\n", "B", false},
+        {"behind a line that fails", "PLATE A\nWELL w\nWELL W\nPLATE B\n", "B", false},
+        {"behind an unknown keyword", "PLATE A\nFOO 1\nPLATE B\n", "B", true},
+        {"an empty file", "", "A", false},
+        {"bytes of any kind", String("\0\xFF\x80\n\0PLATE A\n", 13), "A", false},
+        {"bytes of any kind inside a plate", "PLATE A\n\xFF\xFE \x01\x80\nPLATE B", "B", true},
+        {"a megabyte in a line", "PLATE A\nCOLS 7" + String(1 << 20, '7') + "\nPLATE B", "B",
+         false},
+        {"a megabyte of comment", "PLATE A\n;" + String(1 << 20, ';') + "\nPLATE B", "B", true},
+        {"a megabyte of digits behind the point", "PLATE A\nXPITCH 7." + String(1 << 20, '7'), "A",
+         true},
+        {"a megabyte of keyword", "PLATE A\n" + String(1 << 20, 'x') + "\nPLATE B", "B", true},
+        {"numbers out of range", "PLATE A\nXPITCH 1e39\nPLATE B", "B", false},
+        {"sixteen bits and a half", "PLATE A\nROWS 32767.5\nPLATE B", "B", false},
+    };
+    for (const auto& row : rows) {
+        TestProcess process;
+        const TempFile library(row.text);
+        const String lost = "Can't find Plate <" + String(row.name) + "> in " + library.Path();
+        if (!row.found) process.messages.Expect(lost);
+        cmPlate plate;
+        EXPECT_EQ(plate.SetPlate(library.Path(), row.name), row.found) << row.why;
+    }
+}
+
+TEST(PlateLibrary, SaysThatItCannotRead) {
+    TestProcess process;
+    const String directory = testing::TempDir();
+    const String missing = directory + "no/such/file";
+    process.messages.Expect("Error trying to read \"Demo96\" from <" + missing + ">");
+    EXPECT_FALSE(cmPlate().SetPlate(missing, "Demo96"));
+    process.messages.Expect("Error trying to read \"Demo96\" from <" + directory + ">");
+    EXPECT_FALSE(cmPlate().SetPlate(directory, "Demo96"));
+    ASSERT_EQ(process.messages.shown.size(), 2U);
+    EXPECT_EQ(process.messages.shown[0].title, "Zorvane");
+
+    EXPECT_FALSE(cmPlate().SetPlate(missing, "")) << "nothing to say";
+    EXPECT_FALSE(cmPlate().SetPlate("", "Demo96")) << "nothing to say";
+}
+
+TEST(LibraryIndex, ListsWhatALookUpReads) {
+    const TempFile library(
+        "; two plates\n\nPLATE A ; first\nROWS 8\nCOLS 12\nTAGLIST x y\nWELL r\n"
+        "WELL d\nPLATE a\n\n ; another\nFOO\nPLATE\n  PLATE B\nROWS 1e9\nPLATE C");
+    const LibraryListing listing = ListLibrary(library.Path());
+    String text;
+    for (const auto& each : listing.plates)
+        text += std::to_string(each.line) + ":" + each.name + " " + std::to_string(each.rows) +
+                "x" + std::to_string(each.cols) + " " + std::to_string(each.subWells) + " [" +
+                each.tags + "]" + (each.found ? " found\n" : "\n");
+    EXPECT_EQ(text, "3:A 8x12 2 [x y] found\n9:a 0x0 0 []\n13: 0x0 0 []\n14:B 0x0 0 []\n");
+    EXPECT_EQ(listing.stoppedAtLine, 15);
+    EXPECT_EQ(listing.code, 7);
+}
+
+TEST(LibraryIndex, SaysWhereTheReadingStops) {
+    const struct {
+        const char* text;
+        std::size_t plates;
+        Long line;
+        Integer code;
+    } rows[] = {
+        {"", 0, 0, 0},
+        {"; only a comment", 0, 0, 0},
+        {"PLATE A\n", 1, 0, 0},
+        {"PLATE A\nEND\nPLATE B", 1, 2, 6},
+        {"PLATE A\n\nEND", 1, 3, 6},
+        {"stray\nPLATE A", 0, 1, 6},
+        {"PLATE A\nINCLUDE x\nPLATE B", 1, 2, -1},
+    };
+    for (const auto& row : rows) {
+        const TempFile library(row.text);
+        const LibraryListing listing = ListLibrary(library.Path());
+        EXPECT_EQ(listing.plates.size(), row.plates) << row.text;
+        EXPECT_EQ(listing.stoppedAtLine, row.line) << row.text;
+        EXPECT_EQ(listing.code, row.code) << row.text;
+    }
+    EXPECT_EQ(NumberRaisedBy([] { ListLibrary(testing::TempDir() + "no such file"); }), 53);
+}
+
+} // namespace
+} // namespace zorvane
