@@ -1,0 +1,229 @@
+#include "platform/InvertingOverlay.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <ostream>
+#include <utility>
+#include <vector>
+
+namespace zorvane {
+namespace {
+
+constexpr Long kSolidPen = 0;
+constexpr Long kLeast = std::numeric_limits<Long>::min();
+constexpr Long kMost = std::numeric_limits<Long>::max();
+
+struct Figure {
+    bool ellipse;
+    Long left, top, right, bottom;
+};
+
+std::ostream& operator<<(std::ostream& out, const Figure& figure) {
+    return out << (figure.ellipse ? "ellipse " : "rectangle ") << figure.left << ' ' << figure.top
+               << ' ' << figure.right << ' ' << figure.bottom;
+}
+
+/// An overlay with a context that is set up for outlines.
+struct Drawing {
+    explicit Drawing(Long width, Long height, Long penStyle = kDottedPen)
+        : overlay(width, height), context(overlay.GetDC(1)) {
+        overlay.SelectObject(context, overlay.CreatePen(penStyle, 1, 0));
+        overlay.SetROP2(context, kNotXorPenMode);
+    }
+
+    Drawing& Draw(const Figure& f) {
+        if (f.ellipse)
+            overlay.Ellipse(context, f.left, f.top, f.right, f.bottom);
+        else
+            overlay.Rectangle(context, f.left, f.top, f.right, f.bottom);
+        return *this;
+    }
+
+    std::vector<String> Picture() const {
+        std::vector<String> rows;
+        for (Long y = 0; y < overlay.Height(); ++y) {
+            rows.emplace_back();
+            for (Long x = 0; x < overlay.Width(); ++x)
+                rows.back() += overlay.IsInverted(x, y) ? '#' : '.';
+        }
+        return rows;
+    }
+
+    InvertingOverlay overlay;
+    DrawingContext::Handle context;
+};
+
+using Rows = std::vector<String>;
+
+TEST(InvertingOverlay, DrawsOutlines) {
+    const struct {
+        Figure figure;
+        Long pen;
+        Rows picture;
+    } rows[] = {
+        {{false, 1, 1, 6, 4}, kSolidPen, {".......", ".#####.", ".#...#.", ".#####.", "......."}},
+        {{false, 6, 4, 1, 1}, kSolidPen, {".......", ".#####.", ".#...#.", ".#####.", "......."}},
+        {{false, 0, 0, 7, 5}, kDottedPen, {"###...#", "#.....#", "#.....#", ".......", "..###.."}},
+        {{false, 2, 1, 3, 5}, kSolidPen, {".......", "..#....", "..#....", "..#....", "..#...."}},
+        {{false, 1, 2, 6, 3}, kSolidPen, {".......", ".......", ".#####.", ".......", "......."}},
+        {{false, 1, 2, 1, 4}, kSolidPen, Rows(5, ".......")},
+        {{true, 0, 0, 7, 5}, kSolidPen, {".#####.", "#.....#", "#.....#", "#.....#", ".#####."}},
+        {{true, 1, 0, 5, 4}, kSolidPen, {"..##...", ".#..#..", ".#..#..", "..##...", "......."}},
+        {{true, 2, 0, 3, 5}, kSolidPen, Rows(5, "..#....")},
+        {{true, 3, 1, 4, 1}, kSolidPen, Rows(5, ".......")},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(Drawing(7, 5, row.pen).Draw(row.figure).Picture(), row.picture) << row.figure;
+}
+
+TEST(InvertingOverlay, DrawingTwiceLeavesNoTrace) {
+    const Figure figures[] = {{false, 3, 4, 40, 30},   {false, 3, 4, 4, 30}, {false, -5, 8, 200, 9},
+                              {false, -9, -9, 20, 70}, {true, 3, 4, 40, 30}, {true, 3, 4, 4, 30},
+                              {true, -5, 8, 200, 10},  {true, 0, 0, 50, 50}};
+    for (const Figure& figure : figures) {
+        Drawing drawing(50, 50);
+        // What is there already comes back too.
+        drawing.Draw({false, 10, 10, 45, 45});
+        const auto before = drawing.Picture();
+        drawing.Draw(figure);
+        EXPECT_NE(drawing.Picture(), before) << figure;
+        drawing.Draw({figure.ellipse, figure.right, figure.bottom, figure.left, figure.top});
+        EXPECT_EQ(drawing.Picture(), before) << figure;
+        drawing.Draw({false, 10, 10, 45, 45});
+        EXPECT_FALSE(drawing.overlay.Any()) << figure;
+    }
+}
+
+TEST(InvertingOverlay, ShowsThePartThatLiesInside) {
+    const Figure figures[] = {{false, 5, 7, 70, 64},
+                              {false, 30, 25, 31, 90},
+                              {true, 5, 7, 70, 64},
+                              {true, 0, 31, 80, 36},
+                              {true, 30, 3, 35, 79}};
+    for (const Figure& f : figures) {
+        const auto whole = Drawing(90, 90).Draw(f).Picture();
+        const auto part =
+            Drawing(20, 20).Draw({f.ellipse, f.left - 25, f.top - 25, f.right - 25, f.bottom - 25});
+        Rows cut;
+        for (std::size_t y = 25; y < 45; ++y)
+            cut.push_back(whole[y].substr(25, 20));
+        EXPECT_EQ(part.Picture(), cut) << f;
+    }
+}
+
+TEST(InvertingOverlay, TakesAnyCoordinates) {
+    const Figure figures[] = {
+        {false, kLeast, kLeast, kMost, kMost}, {false, 5, kLeast, kMost, 9},
+        {true, kLeast, kLeast, kMost, kMost},  {true, -10, 0, kMost, 32},
+        {true, 0, kMost, 32, kLeast},          {true, kMost - 1, 0, kMost, 1}};
+    for (const Figure& figure : figures) {
+        Drawing drawing(32, 32);
+        drawing.Draw(figure).Draw(figure);
+        EXPECT_FALSE(drawing.overlay.Any()) << figure;
+    }
+    Drawing empty(0, 0);
+    empty.Draw({false, -1, -1, 1, 1}).Draw({true, -1, -1, 1, 1});
+    EXPECT_FALSE(empty.overlay.Any());
+}
+
+/// The number of pixels that a walk over neighbouring pixels, diagonal ones included, reaches.
+std::size_t ConnectedTo(Rows picture, std::size_t x, std::size_t y) {
+    if (y >= picture.size() || x >= picture[y].size() || picture[y][x] != '#') return 0;
+    std::vector<std::pair<std::size_t, std::size_t>> open{{x, y}};
+    picture[y][x] = '.';
+    std::size_t count = 0;
+    while (!open.empty()) {
+        const auto [atX, atY] = open.back();
+        open.pop_back();
+        ++count;
+        for (std::size_t i = 0; i < 9; ++i) {
+            const std::size_t nextX = atX + i % 3 - 1;
+            const std::size_t nextY = atY + i / 3 - 1;
+            if (nextY >= picture.size() || nextX >= picture[nextY].size()) continue;
+            if (picture[nextY][nextX] != '#') continue;
+            picture[nextY][nextX] = '.';
+            open.emplace_back(nextX, nextY);
+        }
+    }
+    return count;
+}
+
+TEST(InvertingOverlay, EllipsesFillTheirBoxWithOneClosedLine) {
+    for (Long width = 1; width <= 24; ++width) {
+        for (Long height = 1; height <= 24; ++height) {
+            const auto picture =
+                Drawing(width, height, kSolidPen).Draw({true, 0, 0, width, height}).Picture();
+            std::size_t pixels = 0;
+            for (const String& row : picture) {
+                EXPECT_EQ(row, String(row.rbegin(), row.rend())) << width << 'x' << height;
+                pixels += static_cast<std::size_t>(std::count(row.begin(), row.end(), '#'));
+            }
+            EXPECT_EQ(picture, Rows(picture.rbegin(), picture.rend())) << width << 'x' << height;
+            const std::size_t top = picture[0].find('#');
+            ASSERT_NE(top, String::npos) << width << 'x' << height;
+            EXPECT_EQ(picture[static_cast<std::size_t>(height) / 2][0], '#')
+                << width << 'x' << height;
+            EXPECT_EQ(ConnectedTo(picture, top, 0), pixels) << width << 'x' << height;
+        }
+    }
+}
+
+TEST(InvertingOverlay, ReportsWhatItTouched) {
+    Drawing drawing(20, 20);
+    std::vector<Rect> touched;
+    drawing.overlay.onChange = [&](const Rect& pixels) { touched.push_back(pixels); };
+    drawing.Draw({false, 5, 5, 30, 10});
+    EXPECT_EQ(touched, (std::vector<Rect>{{5, 5, 15, 1}, {5, 9, 15, 1}, {5, 6, 1, 3}}));
+    touched.clear();
+    drawing.Draw({true, -5, 15, 10, 40});
+    EXPECT_EQ(touched, (std::vector<Rect>{{0, 15, 10, 5}}));
+    touched.clear();
+    drawing.Draw({false, 20, 0, 30, 10}).Draw({true, 0, 20, 10, 30});
+    EXPECT_TRUE(touched.empty());
+}
+
+TEST(InvertingOverlay, DrawsOnlyWithAContextInInvertingMode) {
+    InvertingOverlay overlay(10, 10);
+    EXPECT_EQ(overlay.GetDC(0), 0);
+    overlay.Rectangle(0, 1, 1, 5, 5);
+    const auto context = overlay.GetDC(7);
+    const auto pen = overlay.CreatePen(kDottedPen, 1, 0);
+    EXPECT_EQ(overlay.SelectObject(context, 999), 0);
+    const auto stock = overlay.SelectObject(context, pen);
+    EXPECT_NE(stock, 0);
+    EXPECT_EQ(overlay.GetCurrentObject(context, kPenObject), pen);
+    overlay.Rectangle(context, 1, 1, 5, 5);
+    EXPECT_FALSE(overlay.Any());
+
+    // Deleted, the pen stays in use where it is selected and cannot be selected anew.
+    overlay.SetROP2(context, kNotXorPenMode);
+    overlay.DeleteObject(pen);
+    overlay.Rectangle(context, 1, 1, 9, 9);
+    EXPECT_TRUE(overlay.IsInverted(1, 1));
+    EXPECT_FALSE(overlay.IsInverted(4, 1));
+    EXPECT_EQ(overlay.SelectObject(context, stock), pen);
+    EXPECT_EQ(overlay.SelectObject(context, pen), 0);
+
+    overlay.ReleaseDC(7, context);
+    overlay.Rectangle(context, 0, 0, 3, 3);
+    EXPECT_FALSE(overlay.IsInverted(0, 0));
+    overlay.Resize(12, 9);
+    EXPECT_FALSE(overlay.Any());
+    EXPECT_FALSE(overlay.IsInverted(1, 1));
+    EXPECT_FALSE(overlay.IsInverted(-1, 20));
+}
+
+TEST(InvertingOverlay, KeepsRowsAsBitsWithTheLeftmostFirst) {
+    Drawing drawing(40, 3, kSolidPen);
+    EXPECT_EQ(drawing.overlay.BytesPerRow(), 8U);
+    drawing.Draw({false, 1, 1, 33, 2});
+    const std::uint8_t* const row = drawing.overlay.Row(1);
+    EXPECT_EQ(row[0], 0x7F);
+    EXPECT_EQ(row[1], 0xFF);
+    EXPECT_EQ(row[4], 0x80);
+}
+
+} // namespace
+} // namespace zorvane
