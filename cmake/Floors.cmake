@@ -13,6 +13,11 @@ if(ZORVANE_SANITIZE)
         -fsanitize=${ZORVANE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(zorvane_options INTERFACE -fsanitize=${ZORVANE_SANITIZE})
 endif()
+if(ZORVANE_BUILD_FUZZERS)
+    # The fuzzer sees the ways through the libraries only where they count them.
+    target_compile_options(zorvane_options INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(zorvane_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # zorvane_include_root(<target> <folder>): lets users of <target> include "<folder>/X.h".
 function(zorvane_include_root target folder)
