@@ -211,6 +211,8 @@ class cmPlate {
 
   private:
     class LineReader;
+    /// Feeds the reader line by line, to report what becomes of each.
+    friend class LibraryChecker;
 
     /// What the reader keeps from one line to the next.
     struct ReaderState {

@@ -1,0 +1,33 @@
+#include "apps/plate/Csv.h"
+
+#include "platetext/PlateFunctions.h"
+
+namespace zorvane {
+
+namespace {
+
+String CsvCell(const Cell& cell) {
+    if (const auto* const number = std::get_if<Long>(&cell)) return std::to_string(*number);
+    if (const auto* const number = std::get_if<Single>(&cell)) return MillimetreText(*number);
+    const String& text = std::get<String>(cell);
+    return text.find_first_of(",\"\r\n") == text.npos ? text : QuoteText(text, "\"");
+}
+
+template <class Values, class Write>
+String CsvLine(const Values& values, Write write) {
+    String line;
+    for (const auto& value : values)
+        line.append(line.empty() && &value == &values.front() ? "" : ",").append(write(value));
+    return line + "\n";
+}
+
+} // namespace
+
+String CsvText(const Table& table) {
+    String text = CsvLine(table.columns, [](const String& name) { return CsvCell(name); });
+    for (const auto& row : table.rows)
+        text += CsvLine(row, CsvCell);
+    return text;
+}
+
+} // namespace zorvane

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "apps/plate/Table.h"
+
+namespace zorvane {
+
+/// A head line and one line a row; a text is quoted where it holds a comma, a quote or a line end.
+String CsvText(const Table& table);
+
+} // namespace zorvane

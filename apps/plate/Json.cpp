@@ -1,0 +1,47 @@
+#include "apps/plate/Json.h"
+
+#include "runtime/Text.h"
+
+namespace zorvane {
+
+namespace {
+
+String JsonString(std::string_view text) {
+    String quoted = "\"";
+    for (const char c : PrintableUtf8(text)) {
+        if (c == '"' || c == '\\') quoted += '\\';
+        if (c == '\t')
+            quoted += "\\t";
+        else if (c == '\n')
+            quoted += "\\n";
+        else if (c == '\r')
+            quoted += "\\r";
+        else
+            quoted += c;
+    }
+    return quoted + "\"";
+}
+
+String JsonCell(const Cell& cell) {
+    if (const auto* const number = std::get_if<Long>(&cell)) return std::to_string(*number);
+    if (const auto* const number = std::get_if<Single>(&cell)) return MillimetreText(*number);
+    return JsonString(std::get<String>(cell));
+}
+
+String JsonRow(const Table& table, const std::vector<Cell>& row) {
+    String object;
+    for (std::size_t i = 0; i < row.size(); ++i)
+        object += (i > 0 ? ", " : "") + JsonString(table.columns[i]) + ": " + JsonCell(row[i]);
+    return "{" + object + "}";
+}
+
+} // namespace
+
+String JsonText(const Table& table) {
+    String text = "[";
+    for (const auto& row : table.rows)
+        text += (&row == &table.rows.front() ? "\n  " : ",\n  ") + JsonRow(table, row);
+    return text + "\n]\n";
+}
+
+} // namespace zorvane

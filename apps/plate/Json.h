@@ -1,0 +1,10 @@
+#pragma once
+
+#include "apps/plate/Table.h"
+
+namespace zorvane {
+
+/// An array with one object a row, each on a line of its own. Bytes that are no UTF-8 are replaced.
+String JsonText(const Table& table);
+
+} // namespace zorvane

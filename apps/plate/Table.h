@@ -1,0 +1,30 @@
+#pragma once
+
+#include "runtime/Types.h"
+
+#include <CLI/App.hpp>
+
+#include <variant>
+#include <vector>
+
+namespace zorvane {
+
+/// One value of a table. Lengths in mm are Singles.
+using Cell = std::variant<String, Long, Single>;
+
+struct Table {
+    std::vector<String> columns;
+    std::vector<std::vector<Cell>> rows; ///< each with one cell a column
+};
+
+/// A length for programs to read: mm to the micrometre, beyond which Singles hold noise.
+String MillimetreText(Single value);
+
+enum class TableForm { Aligned, Csv, Json };
+
+/// Adds the options that choose a form.
+void AddFormOptions(CLI::App& options, TableForm& form);
+
+String TableText(const Table& table, TableForm form);
+
+} // namespace zorvane

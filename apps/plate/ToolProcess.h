@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/Process.h"
+#include "runtime/Text.h"
+
+#include <iostream>
+
+namespace zorvane {
+
+/// The surroundings of a command-line tool: messages go to standard error, there is no registry and
+/// the screen has 96 dots an inch.
+class ToolProcess final : public Process {
+  public:
+    MessageDisplay& Messages() override { return messages_; }
+    Screen& TheScreen() override { return screen_; }
+    Registry& TheRegistry() override { return registry_; }
+
+  private:
+    struct StandardError final : MessageDisplay {
+        void Show(const Message& message) override {
+            std::cerr << "plate: " << PrintableUtf8(message.prompt) << "\n";
+        }
+    };
+
+    StandardError messages_;
+    Screen screen_;
+    Registry registry_;
+};
+
+} // namespace zorvane
