@@ -1,0 +1,15 @@
+#pragma once
+
+#include "control/Surface.h"
+#include "drawing/Canvas.h"
+#include "drawing/Palette.h"
+
+namespace zorvane {
+
+/// Paints what a control shows, from back to front, as far as the canvas's clip touches it: the
+/// background, the plate area with its wells, legends and selection box, the details panel's frame
+/// and the button that opens it. Visits no well outside of the clip and allocates nothing for wells
+/// without a caption.
+void PaintControl(const Surface& surface, const SystemPalette& palette, Canvas& canvas);
+
+} // namespace zorvane

@@ -1,0 +1,218 @@
+#include "drawing/SvgCanvas.h"
+
+#include "drawing/SansSerifWidths.h"
+#include "runtime/NumberText.h"
+#include "runtime/Text.h"
+
+#include <cmath>
+
+namespace zorvane {
+
+namespace {
+
+constexpr Single kPixel = 15;
+/// How far the base line of capitals and digits lies below their middle, in font sizes. The
+/// attribute that centres text differs between renderers.
+constexpr Single kBaseLineDrop = 0.36F;
+constexpr std::string_view kFonts = "Arial, Helvetica, 'Liberation Sans', sans-serif";
+
+String Escaped(std::string_view text) {
+    String result;
+    for (const char character : PrintableUtf8(text)) {
+        switch (character) {
+        case '&':
+            result += "&amp;";
+            break;
+        case '<':
+            result += "&lt;";
+            break;
+        case '>':
+            result += "&gt;";
+            break;
+        case '"':
+            result += "&quot;";
+            break;
+        default:
+            result += character;
+        }
+    }
+    return result;
+}
+
+String Hex(Rgb color) {
+    constexpr std::string_view kDigits = "0123456789abcdef";
+    String result = "#";
+    for (const std::uint8_t part : {color.red, color.green, color.blue}) {
+        result += kDigits[part >> 4];
+        result += kDigits[part & 15];
+    }
+    return result;
+}
+
+/// Where the middle of a one-pixel line inside of a box runs.
+constexpr Rect LineIn(const Rect& box) { return box.Grown(-kPixel / 2); }
+
+} // namespace
+
+SvgCanvas::SvgCanvas(const SvgPage& page) : area_(page.area) {
+    svg_ = R"(<svg xmlns="http://www.w3.org/2000/svg" role="img")";
+    const bool natural = page.pixelWidth <= 0 || page.pixelHeight <= 0;
+    Attribute("width", natural ? area_.width / kPixel : page.pixelWidth);
+    Attribute("height", natural ? area_.height / kPixel : page.pixelHeight);
+    svg_ += " viewBox=\"";
+    for (const Single number : {area_.left, area_.top, area_.width})
+        svg_ += GeneralText(number) + ' ';
+    svg_ += GeneralText(area_.height) + "\"\n    ";
+    Attribute("stroke-width", kPixel);
+    Attribute("font-family", kFonts);
+    Attribute("font-size", kFontHeight);
+    Attribute("text-anchor", "middle");
+    Attribute("xml:space", "preserve");
+    svg_ += ">\n <title>" + Escaped(page.title) + "</title>\n";
+    if (!page.description.empty()) svg_ += " <desc>" + Escaped(page.description) + "</desc>\n";
+    groups_.push_back({{}, {"#000000", "none"}, true});
+}
+
+String SvgCanvas::Finish() {
+    while (groups_.size() > 1)
+        EndGroup();
+    svg_ += "</svg>\n";
+    return std::move(svg_);
+}
+
+void SvgCanvas::DrawShape(const ShapeStyle& style, const Rect& box) {
+    const bool square = style.kind == ShapeKind::Square || style.kind == ShapeKind::Circle;
+    const Rect whole = square ? CentredSquare(box) : box;
+    // A shape with no room inside of its outline is all outline.
+    const bool solid = style.outlined && (whole.width <= kPixel || whole.height <= kPixel);
+    const Rect line = style.outlined && !solid ? LineIn(whole) : whole;
+    const Paint paint{Hex(solid ? kBlack : style.fill),
+                      style.outlined && !solid ? "#000000" : "none"};
+    const Single radiusX = line.width / 2;
+    const Single radiusY = line.height / 2;
+
+    switch (style.kind) {
+    case ShapeKind::Circle:
+        BeginElement("circle", paint);
+        Attribute("cx", line.left + radiusX);
+        Attribute("cy", line.top + radiusY);
+        Attribute("r", radiusX);
+        break;
+    case ShapeKind::Oval:
+        BeginElement("ellipse", paint);
+        Attribute("cx", line.left + radiusX);
+        Attribute("cy", line.top + radiusY);
+        Attribute("rx", radiusX);
+        Attribute("ry", radiusY);
+        break;
+    case ShapeKind::Rounded:
+        BeginElement("rect", paint);
+        BoxAttributes(line);
+        Attribute("rx", std::min(radiusX, radiusY) / 2);
+        break;
+    case ShapeKind::Rectangle:
+    case ShapeKind::Square:
+        BeginElement("rect", paint);
+        BoxAttributes(line);
+    }
+    svg_ += "/>\n";
+}
+
+void SvgCanvas::FillRectangle(Rgb color, const Rect& box) {
+    if (box.Empty()) return;
+    BeginElement("rect", {Hex(color), "none"});
+    BoxAttributes(box);
+    Attribute("shape-rendering", "crispEdges");
+    svg_ += "/>\n";
+}
+
+void SvgCanvas::DrawRectangle(Rgb color, const Rect& box) {
+    const Rect line = LineIn(box);
+    if (line.Empty()) return;
+    BeginElement("rect", {"none", Hex(color)});
+    BoxAttributes(line);
+    Attribute("shape-rendering", "crispEdges");
+    svg_ += "/>\n";
+}
+
+void SvgCanvas::DrawText(const TextStyle& style, const Rect& box, std::string_view text) {
+    const bool centred = style.align == TextAlign::Centre;
+    BeginElement("text", {Hex(style.color), "none"});
+    Attribute("x", centred ? box.left + box.width / 2 : box.left);
+    Attribute("y", box.top + box.height / 2 + kBaseLineDrop * kFontHeight);
+    if (!centred) Attribute("text-anchor", "start");
+    if (style.bold) Attribute("font-weight", "bold");
+    svg_ += '>' + Escaped(text) + "</text>\n";
+}
+
+Single SvgCanvas::TextWidth(std::string_view text, Boolean bold) const {
+    return SansSerifWidth(text, bold) * kFontHeight;
+}
+
+void SvgCanvas::DrawInvertedOutline(const Rect& box) {
+    const Rect line = LineIn(box);
+    if (line.Empty()) return;
+    BeginElement("rect", {"none", Hex(kWhite)});
+    BoxAttributes(line);
+    Attribute("stroke-dasharray", kPixel);
+    Attribute("style", "mix-blend-mode:difference");
+    svg_ += "/>\n";
+}
+
+void SvgCanvas::BeginGroup(std::string_view name) { groups_.push_back({String(name), {}, false}); }
+
+void SvgCanvas::EndGroup() {
+    const bool begun = groups_.back().begun;
+    groups_.pop_back();
+    if (begun) svg_.append(groups_.size(), ' ') += "</g>\n";
+}
+
+void SvgCanvas::BeginElement(std::string_view name, const Paint& paint) {
+    BeginGroups(paint);
+    StartTag(name, groups_.size());
+    Colors(paint, groups_.back().paint);
+}
+
+/// Writes the start tags of the groups that have had no element yet; the innermost one takes the
+/// colours of this first one.
+void SvgCanvas::BeginGroups(const Paint& paint) {
+    for (std::size_t depth = 1; depth < groups_.size(); ++depth) {
+        Group& group = groups_[depth];
+        if (group.begun) continue;
+        const Paint& inherited = groups_[depth - 1].paint;
+        StartTag("g", depth);
+        if (!group.name.empty()) Attribute("id", group.name);
+        group.paint = depth + 1 == groups_.size() ? paint : inherited;
+        Colors(group.paint, inherited);
+        group.begun = true;
+        svg_ += ">\n";
+    }
+}
+
+void SvgCanvas::StartTag(std::string_view name, std::size_t depth) {
+    svg_.append(depth, ' ') += '<';
+    svg_ += name;
+}
+
+void SvgCanvas::Colors(const Paint& paint, const Paint& inherited) {
+    if (paint.fill != inherited.fill) Attribute("fill", paint.fill);
+    if (paint.stroke != inherited.stroke) Attribute("stroke", paint.stroke);
+}
+
+void SvgCanvas::Attribute(std::string_view name, std::string_view value) {
+    ((svg_ += ' ') += name) += "=\"";
+    (svg_ += value) += '"';
+}
+
+void SvgCanvas::Attribute(std::string_view name, Double value) {
+    Attribute(name, GeneralText(std::round(value * 100) / 100));
+}
+
+void SvgCanvas::BoxAttributes(const Rect& box) {
+    Attribute("x", box.left);
+    Attribute("y", box.top);
+    Attribute("width", box.width);
+    Attribute("height", box.height);
+}
+
+} // namespace zorvane

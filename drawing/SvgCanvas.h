@@ -1,0 +1,65 @@
+#pragma once
+
+#include "drawing/Canvas.h"
+#include "runtime/Types.h"
+
+#include <string_view>
+#include <vector>
+
+namespace zorvane {
+
+/// What an SVG picture shows and how large it is.
+struct SvgPage {
+    Rect area;             ///< the part of the control that is shown, in drawing units
+    String title;          ///< read out by screen readers, shown as a tooltip
+    String description;    ///< left out when empty
+    Single pixelWidth = 0; ///< 0 for the natural size: 96 pixels an inch, 15 drawing units a pixel
+    Single pixelHeight = 0;
+};
+
+/// Writes what is painted as an SVG picture whose unit is the drawing unit. Groups become <g>
+/// elements with their names as ids, those without content are left out; a group states the colours
+/// of its first element, so that equal wells take a few bytes each.
+class SvgCanvas final : public Canvas {
+  public:
+    explicit SvgCanvas(const SvgPage& page);
+
+    /// Completes the picture and hands it over; nothing more can be painted then.
+    String Finish();
+
+    Rect Clip() const override { return area_; }
+    void DrawShape(const ShapeStyle& style, const Rect& box) override;
+    void FillRectangle(Rgb color, const Rect& box) override;
+    void DrawRectangle(Rgb color, const Rect& box) override;
+    void DrawText(const TextStyle& style, const Rect& box, std::string_view text) override;
+    Single TextWidth(std::string_view text, Boolean bold) const override;
+    void DrawInvertedOutline(const Rect& box) override;
+    /// The name is an id: used once a picture, without blanks. An empty one gives no id.
+    void BeginGroup(std::string_view name) override;
+    void EndGroup() override;
+
+  private:
+    struct Paint {
+        String fill;
+        String stroke;
+    };
+    struct Group {
+        String name;
+        Paint paint; ///< what its elements inherit
+        bool begun = false;
+    };
+
+    void BeginElement(std::string_view name, const Paint& paint);
+    void BeginGroups(const Paint& paint);
+    void StartTag(std::string_view name, std::size_t depth);
+    void Colors(const Paint& paint, const Paint& inherited);
+    void Attribute(std::string_view name, std::string_view value);
+    void Attribute(std::string_view name, Double value);
+    void BoxAttributes(const Rect& box);
+
+    Rect area_;
+    String svg_;
+    std::vector<Group> groups_; ///< the picture itself, then the groups not ended yet
+};
+
+} // namespace zorvane
