@@ -155,12 +155,10 @@ void cmPlate::CompoundWell(const std::shared_ptr<zorvane::CompoundWell>& value) 
 }
 
 void cmPlate::SetProperty(std::string_view name, std::string_view value, Integer position) {
-    auto pair = Properties.Pair(name);
-    if (!pair) {
-        pair = std::make_shared<TStringPair>(String(name), String());
-        Properties.Add(pair, position);
-    }
-    pair->Value(value);
+    if (TStringPair* const pair = Properties.Find(name))
+        pair->Value(value);
+    else
+        Properties.Add(std::make_shared<TStringPair>(String(name), String(value)), position);
 }
 
 String cmPlate::GetProperty(std::string_view name) const {

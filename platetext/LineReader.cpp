@@ -16,9 +16,10 @@ Long cmPlate::LineReader::Read(std::string_view line) {
         return kNothing;
     }
     keyword_ = NextWord(line);
-    argument_ = Trim(line);
-    commentPlace_ = argument_;
-    firstArgument_ = NextWord(commentPlace_);
+    line = Trim(line);
+    argument_ = line;
+    firstArgument_ = NextWord(line);
+    commentPlace_ = line;
     return plate_.reader_.inPlate ? ReadInsidePlate() : ReadOutsidePlate();
 }
 

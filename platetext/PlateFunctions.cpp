@@ -41,17 +41,6 @@ String NextWord(String& s) {
 
 String NextWordUpper(String& s) { return UpperText(NextWord(s)); }
 
-std::string_view NextWord(std::string_view& s) {
-    s = TrimStart(s);
-    // A plain loop: words are short.
-    std::size_t end = 0;
-    while (end < s.size() && s[end] != ' ' && s[end] != '\t')
-        ++end;
-    const std::string_view word = s.substr(0, end);
-    s.remove_prefix(end);
-    return word;
-}
-
 String QuoteText(std::string_view s, std::string_view q) {
     String result(q);
     if (const char closing = ClosingBracket(q)) return result.append(s) + closing;

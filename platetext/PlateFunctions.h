@@ -1,6 +1,7 @@
 #pragma once
 
 #include "runtime/RuntimeError.h"
+#include "runtime/Text.h"
 #include "runtime/Types.h"
 
 #include <string_view>
@@ -23,7 +24,15 @@ String NextWord(String& s);
 /// NextWord in upper case.
 String NextWordUpper(String& s);
 /// NextWord on a view, for readers that store few of the words they take.
-std::string_view NextWord(std::string_view& s);
+constexpr std::string_view NextWord(std::string_view& s) {
+    s = TrimStart(s);
+    std::size_t end = 0;
+    while (end < s.size() && s[end] != ' ' && s[end] != '\t')
+        ++end;
+    const std::string_view word = s.substr(0, end);
+    s.remove_prefix(end);
+    return word;
+}
 
 /// The text between a pair of marks. An opening bracket ( < [ { is closed by its counterpart;
 /// any other mark stands on both sides and is doubled inside.

@@ -16,9 +16,10 @@ constexpr std::string_view kResetLine = "ResetParsePlateLine";
 constexpr Integer kOtherPlate = 1;
 constexpr Integer kIncludeMet = -1;
 
-/// The line with TAB, CR and LF as spaces, in place.
-std::string_view Blanked(String& line) {
-    std::replace_if(line.begin(), line.end(), IsBlank, ' ');
+/// The line with these control characters as spaces, in place. Most lines have none.
+std::string_view Blanked(String& line, std::string_view controls) {
+    for (const char control : controls)
+        if (line.find(control) != line.npos) std::replace(line.begin(), line.end(), control, ' ');
     return line;
 }
 
@@ -63,7 +64,7 @@ Integer cmPlate::ReadPlate(TextFile& file) {
     do {
         lineStart = file.Position();
         file.ReadLine(reader_.line);
-        code = ParsePlateLine(Trim(Blanked(reader_.line)));
+        code = ParsePlateLine(Trim(Blanked(reader_.line, "\t"))); // CR and LF end lines
     } while (!file.AtEnd() && GoesOnAfter(code));
 
     switch (code) {
@@ -94,7 +95,7 @@ void cmPlate::ReadLines(std::string_view text, Long lastCode) {
         const std::size_t end = text.find(lineEnd);
         reader_.line.assign(text.substr(0, end));
         text.remove_prefix(end == text.npos ? text.size() : end + lineEnd.size());
-        code = ParsePlateLine(Blanked(reader_.line));
+        code = ParsePlateLine(Blanked(reader_.line, "\t\r\n"));
     } while (!text.empty() && code <= lastCode);
 }
 

@@ -4,7 +4,6 @@
 #include "runtime/Text.h"
 #include "runtime/Types.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <iterator>
 #include <memory>
@@ -16,7 +15,8 @@
 namespace zorvane {
 
 /// An ordered store of shared objects. Positions count from 1 and are dense; keys are unique apart
-/// from letter case and are fixed when an entry is added. Looking up by key is a hash look-up.
+/// from letter case and are fixed when an entry is added. Looking up by key is a hash look-up, and
+/// one comparison when keys are asked for in list order.
 ///
 /// Errors: 457 for a key that is already present, 5 for an absent key, 9 for a position outside
 /// 1 to Count(). A failed operation changes nothing.
@@ -41,7 +41,7 @@ class KeyedStore {
     }
 
     const Pointer& Item(Long position) const { return nodes_[IndexOf(position)]->item; }
-    const Pointer& Item(std::string_view key) const { return NodeOf(key)->item; }
+    const Pointer& Item(std::string_view key) const { return NodeOf(key).item; }
 
     /// The key that the entry at a position was added under.
     const String& KeyAt(Long position) const { return nodes_[IndexOf(position)]->key; }
@@ -54,20 +54,21 @@ class KeyedStore {
 
     /// The place of the shared object under a key, or null. Good until the entry is removed.
     const Pointer* FindShared(std::string_view key) const {
-        const auto found = byKey_.find(key);
-        return found == byKey_.end() ? nullptr : &found->second->item;
+        const Node* const node = FindNode(key);
+        return node ? &node->item : nullptr;
     }
 
     /// The position of a key, or 0.
     Long PositionOf(std::string_view key) const {
-        const auto found = byKey_.find(key);
-        return found == byKey_.end() ? 0 : PositionOf(found->second);
+        const Node* const node = FindNode(key);
+        return node ? PositionOf(*node) : 0;
     }
 
     void Remove(Long position) {
-        const auto node = nodes_.begin() + static_cast<std::ptrdiff_t>(IndexOf(position));
-        byKey_.erase((*node)->key);
-        nodes_.erase(node);
+        const std::size_t index = IndexOf(position);
+        byKey_.erase(nodes_[index]->key);
+        nodes_.erase(nodes_.begin() + static_cast<std::ptrdiff_t>(index));
+        NumberFrom(index);
     }
     void Remove(std::string_view key) { Remove(PositionOf(NodeOf(key))); }
 
@@ -80,6 +81,7 @@ class KeyedStore {
     struct Node {
         String key;
         Pointer item;
+        std::size_t index = 0;
     };
     struct Hash {
         std::size_t operator()(std::string_view key) const { return HashNoCase(key); }
@@ -120,25 +122,36 @@ class KeyedStore {
         // The map's keys look into the nodes, which never move.
         byKey_.emplace(node->key, node.get());
         nodes_.insert(nodes_.begin() + static_cast<std::ptrdiff_t>(index), std::move(node));
+        NumberFrom(index);
+    }
+
+    void NumberFrom(std::size_t index) {
+        for (; index < nodes_.size(); ++index)
+            nodes_[index]->index = index;
     }
 
     std::size_t IndexOf(Long position) const {
         if (position < 1 || position > Count()) Raise(ErrorNumber::SubscriptOutOfRange);
         return static_cast<std::size_t>(position - 1);
     }
-    Node* NodeOf(std::string_view key) const {
+    const Node* FindNode(std::string_view key) const {
+        if (expected_ < nodes_.size() && EqualNoCase(nodes_[expected_]->key, key))
+            return nodes_[expected_++].get();
         const auto found = byKey_.find(key);
-        if (found == byKey_.end()) Raise(ErrorNumber::InvalidProcedureCall);
+        if (found == byKey_.end()) return nullptr;
+        expected_ = found->second->index + 1;
         return found->second;
     }
-    Long PositionOf(const Node* node) const {
-        const auto found = std::find_if(nodes_.begin(), nodes_.end(),
-                                        [node](const auto& each) { return each.get() == node; });
-        return static_cast<Long>(found - nodes_.begin()) + 1;
+    const Node& NodeOf(std::string_view key) const {
+        const Node* const node = FindNode(key);
+        if (!node) Raise(ErrorNumber::InvalidProcedureCall);
+        return *node;
     }
+    static Long PositionOf(const Node& node) { return static_cast<Long>(node.index) + 1; }
 
     Nodes nodes_;
     std::unordered_map<std::string_view, Node*, Hash, Equal> byKey_;
+    mutable std::size_t expected_ = 0; ///< where the next look-up tries first
 };
 
 } // namespace zorvane

@@ -16,9 +16,17 @@ constexpr char ToUpperAscii(char c) { return c >= 'a' && c <= 'z' ? static_cast<
 constexpr bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
 /// The part of the text that is left when blanks are taken off its start, its end, or both.
-std::string_view TrimStart(std::string_view text);
-std::string_view TrimEnd(std::string_view text);
-std::string_view Trim(std::string_view text);
+constexpr std::string_view TrimStart(std::string_view text) {
+    while (!text.empty() && IsBlank(text.front()))
+        text.remove_prefix(1);
+    return text;
+}
+constexpr std::string_view TrimEnd(std::string_view text) {
+    while (!text.empty() && IsBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+constexpr std::string_view Trim(std::string_view text) { return TrimEnd(TrimStart(text)); }
 
 String UpperText(std::string_view text);
 String LowerText(std::string_view text);

@@ -36,6 +36,8 @@ class TStringPairList {
 
     std::shared_ptr<TStringPair> Pair(Long position) const;
     std::shared_ptr<TStringPair> Pair(std::string_view name) const;
+    /// The pair of this name, or null, whatever ErrorOnFail says.
+    TStringPair* Find(std::string_view name) const { return pairs_.Find(name); }
 
     String Value(std::string_view name) const;
     /// Sets the value of a pair; an absent one is appended.
