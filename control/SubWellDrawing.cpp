@@ -37,8 +37,11 @@ void SizeWellAndRim(SubWellDrawing& drawing, const WellDetails& well, const Draw
     if (rimY < Checked(half) + kRimMargin) rimY = Checked(half) + kRimMargin;
 
     drawing.wellHalfSize = half;
+    drawing.wellSize = Checked(2) * half;
     drawing.rimHalfWidth = rimX;
+    drawing.rimWidth = Checked(2) * rimX;
     drawing.rimHalfHeight = rimY;
+    drawing.rimHeight = Checked(2) * rimY;
     drawing.bottomBorder = half >= kRimMargin;
 }
 
@@ -64,18 +67,18 @@ Integer HalfPitch(Integer pitch, Single pixel) {
 }
 
 void ClampRimToPitch(SubWellDrawing& drawing, const DrawingScales& scales) {
-    if (drawing.RimWidth() > Double(drawing.columnPitch) + scales.pixelWidth)
+    if (drawing.rimWidth > Double(drawing.columnPitch) + scales.pixelWidth) {
         drawing.rimHalfWidth = HalfPitch(drawing.columnPitch, scales.pixelWidth);
+        drawing.rimWidth = Checked(2) * drawing.rimHalfWidth;
+    }
     // The column pitch bounds the height too: plates with unequal pitches depend on being drawn so.
-    if (drawing.RimHeight() > Double(drawing.rowPitch) + scales.pixelHeight)
+    if (drawing.rimHeight > Double(drawing.rowPitch) + scales.pixelHeight) {
         drawing.rimHalfHeight = HalfPitch(drawing.columnPitch, scales.pixelHeight);
+        drawing.rimHeight = Checked(2) * drawing.rimHalfHeight;
+    }
 }
 
 } // namespace
-
-Integer SubWellDrawing::RimWidth() const { return Checked(2) * rimHalfWidth; }
-Integer SubWellDrawing::RimHeight() const { return Checked(2) * rimHalfHeight; }
-Integer SubWellDrawing::WellSize() const { return Checked(2) * wellHalfSize; }
 
 SubWellShapes ShapesOfStyle(Long style, SubWellShapes before) {
     switch (style) {

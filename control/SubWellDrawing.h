@@ -26,9 +26,12 @@ struct SubWellShapes {
 /// applied to every well position.
 struct SubWellDrawing {
     SubWellShapes shapes;
-    Integer rimHalfWidth = 0;
-    Integer rimHalfHeight = 0;
     Integer wellHalfSize = 0;
+    Integer wellSize = 0;
+    Integer rimHalfWidth = 0;
+    Integer rimWidth = 0;
+    Integer rimHalfHeight = 0;
+    Integer rimHeight = 0;
     Boolean bottomBorder = true;
     Boolean textShown = false;
     Integer textWidth = 0;
@@ -37,10 +40,6 @@ struct SubWellDrawing {
     Integer originY = 0;
     Integer columnPitch = 0;
     Integer rowPitch = 0;
-
-    Integer RimWidth() const;
-    Integer RimHeight() const;
-    Integer WellSize() const;
 };
 
 /// The shapes of a style code; a code without shapes of its own keeps those of the sub-well before.

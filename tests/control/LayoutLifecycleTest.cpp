@@ -1,0 +1,129 @@
+#include "control/ControlFixture.h"
+
+namespace zorvane {
+namespace {
+
+using LayoutLifecycleTest = ControlTest;
+
+TEST_F(LayoutLifecycleTest, ASmallerPlateKeepsTheRecordsItHasWellsFor) {
+    Load(OneDrop(8, 12));
+    plate.Text(23, "kept");
+    plate.Text(24, "released");
+    Load(OneDrop(4, 6));
+    EXPECT_EQ(Shown().WellRim.size(), 24U);
+    EXPECT_EQ(Shown().WellText.size(), 24U);
+    EXPECT_EQ(plate.Text(23), "kept");
+    EXPECT_EQ(plate.Text(24), "");
+
+    struct {
+        Integer wellNo;
+        Long number;
+    } cases[] = {{23, 0}, {24, 91}, {95, 91}, {96, 91}, {97, 9}, {-1, 9}};
+    for (const auto& each : cases) {
+        plate.CurrentWell(each.wellNo);
+        EXPECT_EQ(NumberRaisedBy([&] { plate.SolutionDefined(); }), each.number) << each.wellNo;
+    }
+
+    Load(OneDrop(8, 12)); // grows: every record is new
+    EXPECT_EQ(plate.Text(23), "");
+    EXPECT_EQ(Shown().WellRim.size(), 96U);
+    Load(OneDrop(12, 8)); // as large as before
+    plate.Text(95, "kept");
+    Load(OneDrop(8, 12));
+    EXPECT_EQ(plate.Text(95), "kept");
+}
+
+TEST_F(LayoutLifecycleTest, APlateWithoutSubWellsShowsAnEmptyArea) {
+    Load(OneDrop());
+    Load(GridText(8, 12, ""));
+    EXPECT_EQ(plate.TotalWells(), 0);
+    ASSERT_EQ(Shown().WellRim.size(), 1U);
+    EXPECT_FALSE(Shown().WellRim[0].visible || Shown().WellBottom[0].visible ||
+                 Shown().WellText[0].visible);
+    EXPECT_TRUE(Shown().paintOrder.empty());
+    EXPECT_EQ(Shown().lblWell.size(), 21U);
+    for (const Label& legend : Shown().lblWell)
+        EXPECT_FALSE(legend.visible);
+    EXPECT_TRUE(Shown().fraPlate.visible);
+    EXPECT_EQ(Shown().fraPlate.caption, "Demo");
+    EXPECT_EQ(plate.MouseToWell(500, 500), 0); // the grid of the plate before, as ever
+    EXPECT_EQ(plate.Text(0), "");
+}
+
+TEST_F(LayoutLifecycleTest, AFailedLayoutLeavesThePlateAreaHidden) {
+    struct {
+        const char* what;
+        String text;
+        Long number;
+        Boolean hidden;
+    } cases[] = {
+        {"40,000 wells", OneDrop(200, 200), 6, false},
+        {"a frame of 35,000 units", GridText(1, 1, "", "XOVERALL 700\r\n"), 6, false},
+        {"a last column at 36,000 units", OneDrop(1, 80), 6, true},
+        {"a last row at 36,000 units", OneDrop(80, 1), 6, true},
+        {"a rim of 33,000 units", GridText(1, 1, SubWellText("A", 10, 10, 660)), 6, true},
+        {"a row without a label", GridText(2, 1, SubWellText("A", 1, 1, 1), "ROWLABEL \r\n"), 5,
+         true},
+    };
+    Load(OneDrop());
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.what);
+        EXPECT_EQ(NumberRaisedBy([&] { plate.PlateClassText(each.text); }), each.number);
+        EXPECT_EQ(Shown().fraPlate.visible, !each.hidden);
+        for (const PaintRun& run : Shown().paintOrder) {
+            const auto end = static_cast<std::size_t>(run.first + run.count);
+            EXPECT_LE(end, run.kind == PaintRun::Kind::Wells ? Shown().WellRim.size()
+                                                             : Shown().lblWell.size());
+        }
+        plate.PlateClassText(OneDrop());
+        EXPECT_TRUE(Shown().fraPlate.visible && Shown().WellRim[95].visible);
+    }
+}
+
+TEST_F(LayoutLifecycleTest, AFixedSizeCannotFitAPlateOfNoSize) {
+    for (const char* size : {"XOVERALL 0\r\n", "YOVERALL 0\r\n"}) {
+        const String text = GridText(1, 1, SubWellText("A", 1, 1, 1), size);
+        plate.FixedSize = true;
+        EXPECT_EQ(NumberRaisedBy([&] { plate.PlateClassText(text); }), 11) << size;
+        plate.FixedSize = false;
+        EXPECT_EQ(NumberRaisedBy([&] { plate.PlateClassText(text); }), 0) << size;
+    }
+}
+
+TEST_F(LayoutLifecycleTest, OnlyAFullResetClearsWhatTheHostShowed) {
+    Load(OneDrop());
+    plate.SetWell(0, 5);
+    plate.WellColor("255");
+    plate.WellAnnotation(5, "note");
+    plate.Text(5, "text");
+    plate.DefaultRimColor(0x111111);
+    plate.DefaultWellColor(0x222222);
+
+    plate.DrawingScale(40);
+    EXPECT_EQ(Rim(5).left, 400 + 5 * 360 - 165);
+    EXPECT_EQ(plate.RimColor(), std::to_string(plate.DefaultSelectColor));
+    EXPECT_EQ(plate.WellColor(), "255");
+    EXPECT_EQ(plate.WellAnnotation(5), "note");
+    EXPECT_TRUE(plate.IsSelected(5));
+
+    plate.InitialVolume(2.5F);
+    plate.CurrentWell(5);
+    EXPECT_EQ(plate.RimColor(), std::to_string(0x111111));
+    EXPECT_EQ(plate.WellColor(), std::to_string(0x222222));
+    EXPECT_EQ(plate.WellAnnotation(5), "");
+    EXPECT_FALSE(plate.IsSelected(5));
+    EXPECT_EQ(plate.NSelected(), 1); // stays until the next single selection
+    EXPECT_EQ(plate.Text(5), "text");
+    EXPECT_EQ(Shown().WellTag[95], "2.5");
+}
+
+TEST_F(LayoutLifecycleTest, EveryLayoutAsksForOneRepaintOfTheWholeControlAtLeast) {
+    Load(OneDrop());
+    plate.DrawingScale(50);
+    ASSERT_FALSE(site.repaints.empty());
+    for (const Rect& area : site.repaints)
+        EXPECT_EQ(area, (Rect{0, 0, 6000, 4120}));
+}
+
+} // namespace
+} // namespace zorvane
