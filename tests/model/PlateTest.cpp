@@ -1,0 +1,144 @@
+#include "model/cmPlate.h"
+
+#include "Raised.h"
+
+#include <gtest/gtest.h>
+
+namespace zorvane {
+namespace {
+
+String PropertiesOf(const cmPlate& plate) {
+    String text;
+    for (const auto& pair : plate.Properties)
+        text += pair->Name() + "=" + pair->Value() + "|";
+    return text;
+}
+
+cmPlate PlateWith(std::initializer_list<const char*> subWells) {
+    cmPlate plate;
+    for (const char* name : subWells)
+        plate.CompoundWell()->Add(0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, name, "", -1);
+    return plate;
+}
+
+TEST(Plate, RecordsWhatIsSet) {
+    cmPlate plate = PlateWith({"A"});
+    plate.XPitch(9);
+    plate.Height(14.355F);
+    plate.ShelfDepth(-0.0004F);
+    plate.Rows(-3);
+    plate.RowLabel("A");
+    plate.ColumnLabel("12");
+    plate.RowLabel("H");
+    EXPECT_EQ(PropertiesOf(plate), "COLLABEL=12|XPITCH=9.000|ROWLABEL=H|HEIGHT=14.35|"
+                                   "SHELFDEPTH=0.000|ROWS=-3|");
+    plate.Properties.Clear();
+    plate.SubWell("a");
+    plate.Volume(12.5F);
+    plate.WellDiameter(6);
+    plate.Style(3);
+    EXPECT_EQ(PropertiesOf(plate),
+              "a.VOLUME=12.50|a.WELLSIZEX=6.00|a.WELLSIZEY=6.00|a.STYLE=SQUARE|");
+    EXPECT_EQ(plate.CompoundWell()->Item(1)->MaxVolume(), 12.5F);
+    EXPECT_EQ(plate.Style(), 0) << "the plate's own";
+}
+
+TEST(Plate, ReadingARimMovesItIntoTheWidth) {
+    cmPlate plate = PlateWith({"A"});
+    plate.SubWell("A");
+    const auto well = plate.CompoundWell()->Item(1);
+    well->RimHeight(1.5F);
+    well->RimCenterX(2.5F);
+    well->RimCenterY(3.5F);
+    EXPECT_EQ(plate.RimHeight(), 0);
+    EXPECT_EQ(well->RimWidth(), 1.5F);
+    EXPECT_EQ(plate.RimCenterX(), 0);
+    EXPECT_EQ(well->RimWidth(), 2.5F);
+    EXPECT_EQ(plate.RimCenterY(), 0);
+    EXPECT_EQ(PropertiesOf(plate), "A.RIMWIDTH=3.50|");
+}
+
+TEST(Plate, FailsWithoutACurrentSubWellOrAProperty) {
+    cmPlate plate = PlateWith({"A"});
+    plate.SubWell("B");
+    EXPECT_EQ(NumberRaisedBy([&] { plate.Depth(1); }), 5);
+    EXPECT_EQ(NumberRaisedBy([&] { plate.RimHeight(); }), 5);
+    EXPECT_EQ(NumberRaisedBy([&] { plate.GetProperty("DEPTH"); }), 91);
+    EXPECT_EQ(plate.Properties.Count(), 0);
+    plate.CompoundWell(nullptr);
+    EXPECT_EQ(plate.CompoundWell()->Count(), 0);
+}
+
+TEST(Plate, ComputesIndices) {
+    cmPlate plate;
+    EXPECT_EQ(NumberRaisedBy([&] { plate.IndexToRow(1); }), 11);
+    EXPECT_EQ(NumberRaisedBy([&] { plate.IndexToCol(1, true); }), 11);
+    plate.Rows(8);
+    plate.Cols(12);
+    EXPECT_EQ(plate.RowColToIndex(2, 5), 29);
+    EXPECT_EQ(plate.RowColToIndex(2, 5, true), 42);
+    EXPECT_EQ(plate.RowColToIndex(7, 11), 95);
+    EXPECT_EQ(plate.IndexToRow(29), 2);
+    EXPECT_EQ(plate.IndexToCol(29), 5);
+    EXPECT_EQ(plate.IndexToRow(42, true), 2);
+    EXPECT_EQ(plate.IndexToCol(42, true), 5);
+    EXPECT_EQ(plate.IndexToCol(-13), -1);
+    EXPECT_EQ(plate.TransposeIndex(29, true), 42);
+    EXPECT_EQ(plate.TransposeIndex(42), 29);
+    EXPECT_EQ(NumberRaisedBy([&] { plate.RowColToIndex(2731, 0); }), 6);
+}
+
+TEST(Plate, LabelsPositions) {
+    const struct {
+        const char* rowLabel;
+        const char* columnLabel;
+        const char* legend; ///< of row 3, column 12
+    } rows[] = {
+        {"A", "1", "D13"},
+        {"a", "1", "d13"},
+        {"H", "12", "E0"},
+        {"1", "A", "4M"},
+        {"0", "2.5", "-3-9.5"},
+        {"\xC3\xA4", "1",
+         "\xC3\xA1"
+         "13"},
+        {"\xE4", "1",
+         "\xE1"
+         "13"},
+    };
+    for (const auto& row : rows) {
+        cmPlate plate;
+        plate.RowLabel(row.rowLabel);
+        plate.ColumnLabel(row.columnLabel);
+        EXPECT_EQ(plate.WellLegend(3, 12), row.legend) << row.rowLabel << row.columnLabel;
+    }
+    cmPlate plate;
+    EXPECT_EQ(NumberRaisedBy([&] { plate.RowLegend(0); }), 5) << "no label";
+    plate.RowLabel("A");
+    EXPECT_EQ(plate.RowLegend(63), "\xC2\x80") << "past ASCII a letter is UTF-8";
+    EXPECT_EQ(NumberRaisedBy([&] { plate.RowLegend(191); }), 5);
+    EXPECT_EQ(NumberRaisedBy([&] { plate.RowLegend(-66); }), 5);
+    EXPECT_EQ(NumberRaisedBy([&] { plate.RowLegend(32767); }), 6);
+}
+
+TEST(Plate, CopiesThroughItsText) {
+    cmPlate source;
+    source.SetFromText("PLATE P\r\n;c\r\nROWS 8\r\nTAG t\r\nWELL W\r\nDEPTH 2");
+    source.UserData = 7;
+    cmPlate copy;
+    copy.Status(3);
+    copy.SubWell("kept");
+    copy.SetProperty("COLS", "12");
+    copy.Copy(source);
+    EXPECT_EQ(copy.Text(), "Plate P\r\n; c\r\n    TAGLIST t\r\n    COLS 12\r\n    ROWS 8\r\n\r\n"
+                           "    Well W\r\n      DEPTH 2\r\n");
+    EXPECT_EQ(copy.Cols(), 0) << "recorded earlier, not read now";
+    EXPECT_EQ(copy.UserData, 7);
+    EXPECT_EQ(copy.Status(), 0);
+    EXPECT_EQ(copy.SubWell(), "kept");
+    copy.CopyFrom(copy);
+    EXPECT_EQ(copy.Cols(), 12);
+}
+
+} // namespace
+} // namespace zorvane
