@@ -25,18 +25,22 @@ class PlainProcess final : public Process {
     Registry registry_;
 };
 
-Process*& InForce() {
+Process*& Default() {
     static PlainProcess plain;
-    static Process* inForce = &plain;
-    return inForce;
+    static Process* process = &plain;
+    return process;
 }
+
+Process* installed = nullptr;
 
 } // namespace
 
-Process& CurrentProcess() { return *InForce(); }
+Process& CurrentProcess() { return installed ? *installed : *Default(); }
 
-InstalledProcess::InstalledProcess(Process& process) : before_(InForce()) { InForce() = &process; }
+void DefaultProcess(Process& process) { Default() = &process; }
 
-InstalledProcess::~InstalledProcess() { InForce() = before_; }
+InstalledProcess::InstalledProcess(Process& process) : before_(installed) { installed = &process; }
+
+InstalledProcess::~InstalledProcess() { installed = before_; }
 
 } // namespace zorvane
