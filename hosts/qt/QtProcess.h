@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/Process.h"
+
+namespace zorvane {
+
+/// Message boxes of the desktop. The call returns once the operator has dismissed the box.
+class QtMessages final : public MessageDisplay {
+  public:
+    void Show(const Message& message) override;
+};
+
+/// The primary screen of the desktop, one pixel of which is one device pixel.
+class QtScreen final : public Screen {
+  public:
+    Single TwipsPerPixelX() const override;
+    Single TwipsPerPixelY() const override { return TwipsPerPixelX(); }
+};
+
+/// What the desktop offers to every control. Of registries it knows none.
+class QtProcess final : public Process {
+  public:
+    /// Makes the desktop serve controls wherever no process has been installed. Every PlateWidget
+    /// calls this, so that one dropped on a form needs no help.
+    static void UseByDefault();
+
+    MessageDisplay& Messages() override { return messages_; }
+    Screen& TheScreen() override { return screen_; }
+    Registry& TheRegistry() override { return registry_; }
+
+  private:
+    QtMessages messages_;
+    QtScreen screen_;
+    Registry registry_;
+};
+
+} // namespace zorvane

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "hosts/qt/PlateOverlay.h"
+#include "platform/HostSite.h"
+
+#include <QSize>
+#include <QString>
+
+#include <functional>
+
+class QWidget;
+
+namespace zorvane {
+
+/// Serves one control with the widget that shows it. What is shown natively (tooltip, pointer,
+/// outlines) is kept here for the widget to show.
+class QtSite final : public HostSite {
+  public:
+    /// `dataButton` stands for the button that opens the details panel.
+    QtSite(QWidget& widget, QWidget& dataButton) : widget_(widget), dataButton_(dataButton) {}
+
+    /// Called when something that is shown has changed, with the area in drawing units.
+    std::function<void(const Rect&)> onRepaint;
+    /// Called when the control takes another size, in device-independent pixels.
+    std::function<void(QSize)> onResize;
+
+    PlateOverlay& Overlay() { return overlay_; }
+    const QString& ToolTip() const { return toolTip_; }
+    PointerShape Pointer() const { return pointer_; }
+
+    void Repaint(const Rect& area) override;
+    Single Width() const override;
+    Single Height() const override;
+    void Resize(Single width, Single height) override;
+    DrawingContext& Drawing() override { return overlay_.Context(); }
+    DrawingContext::Handle PlateWindow() const override { return 1; }
+    void TakeFocus() override;
+    void FocusDataButton() override;
+    void SetToolTip(const String& text) override { toolTip_ = QString::fromStdString(text); }
+    void SetPointer(PointerShape shape) override { pointer_ = shape; }
+    String Ask(const Question& question) override;
+    Integer Choose(const std::vector<MenuEntry>& entries) override;
+
+  private:
+    QWidget& widget_;
+    QWidget& dataButton_;
+    PlateOverlay overlay_;
+    QString toolTip_;
+    PointerShape pointer_ = PointerShape::Standard;
+};
+
+} // namespace zorvane
