@@ -1,0 +1,62 @@
+#include "apps/viewer/logic/PlateChoice.h"
+
+#include "platetext/PlateFunctions.h"
+#include "runtime/Text.h"
+
+#include <algorithm>
+#include <string>
+
+namespace zorvane {
+
+namespace {
+
+constexpr const char* kPlaceholder = "No_Plate";
+
+int Suitability(const LibraryEntry& plate) {
+    if (!plate.found) return 0;
+    if (EqualNoCase(plate.name, kPlaceholder)) return 1;
+    return plate.subWells < 2 ? 2 : 3;
+}
+
+} // namespace
+
+bool MatchesFilter(const LibraryEntry& plate, std::string_view typed) {
+    const String searched = LowerText(plate.name + " " + plate.tags);
+    std::string_view rest = TrimStart(typed);
+    while (!rest.empty()) {
+        const auto end = std::find_if(rest.begin(), rest.end(), IsBlank);
+        const auto length = static_cast<std::size_t>(end - rest.begin());
+        if (searched.find(LowerText(rest.substr(0, length))) == String::npos) return false;
+        rest = TrimStart(rest.substr(length));
+    }
+    return true;
+}
+
+int FirstPlate(const LibraryListing& library) {
+    const auto& plates = library.plates;
+    const auto best = std::max_element(plates.begin(), plates.end(), [](auto& a, auto& b) {
+        return Suitability(a) < Suitability(b);
+    });
+    if (best == plates.end() || Suitability(*best) == 0) return -1;
+    return static_cast<int>(best - plates.begin());
+}
+
+String StopText(const LibraryListing& library) {
+    if (library.stoppedAtLine == 0) return {};
+    const String line = std::to_string(library.stoppedAtLine);
+    switch (library.code) {
+    case -1:
+        return "Reading stops at line " + line +
+               ": INCLUDE is not followed, and hides the plates behind it.";
+    case 6:
+        return "Reading stops at line " + line +
+               ", which is not part of a plate and hides the plates behind it.";
+    case 7:
+        return "Reading stops at line " + line +
+               ", which cannot be read and hides the plates behind it.";
+    default:
+        return "Reading stops at line " + line + ": error " + std::to_string(library.code) + ".";
+    }
+}
+
+} // namespace zorvane

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "apps/welldata/VolumeScale.h"
+#include "control/Plate.h"
+#include "runtime/Types.h"
+
+#include <utility>
+#include <vector>
+
+namespace zorvane {
+
+/// Shows the volumes of a plate's wells as colours of their bottoms, and can give the wells their
+/// own colours back.
+class VolumeColoring {
+  public:
+    explicit VolumeColoring(Plate& plate) : plate_(plate) {}
+
+    bool IsOn() const { return on_; }
+    void SetOn(bool on);
+
+    /// Runs a change of the wells with their own colours in place, and colours them anew behind it,
+    /// whether it fails or not.
+    template <class Change>
+    void Around(Change&& change) {
+        const Pause pause(*this);
+        std::forward<Change>(change)();
+    }
+
+    /// The bottom colour of a well without the colouring.
+    Long OwnColor(Integer wellNo) const;
+    /// The scale in force; empty while the colouring is off.
+    const VolumeScale& Scale() const { return scale_; }
+
+  private:
+    struct Pause {
+        explicit Pause(VolumeColoring& coloring) : coloring_(coloring) { coloring_.GiveBack(); }
+        ~Pause() { coloring_.Color(); }
+        Pause(const Pause&) = delete;
+        Pause& operator=(const Pause&) = delete;
+        VolumeColoring& coloring_;
+    };
+
+    void Color();
+    void GiveBack();
+    Long ColorOf(Integer wellNo) const;
+
+    Plate& plate_;
+    bool on_ = false;
+    VolumeScale scale_;
+    std::vector<Long> own_; // while the wells show their volumes
+};
+
+} // namespace zorvane
