@@ -1,6 +1,6 @@
 #include "apps/plate/Csv.h"
 
-#include "platetext/PlateFunctions.h"
+#include "apps/welldata/CsvReader.h"
 
 namespace zorvane {
 
@@ -9,8 +9,7 @@ namespace {
 String CsvCell(const Cell& cell) {
     if (const auto* const number = std::get_if<Long>(&cell)) return std::to_string(*number);
     if (const auto* const number = std::get_if<Single>(&cell)) return MillimetreText(*number);
-    const String& text = std::get<String>(cell);
-    return text.find_first_of(",\"\r\n") == text.npos ? text : QuoteText(text, "\"");
+    return CsvText(std::get<String>(cell));
 }
 
 template <class Values, class Write>
@@ -23,8 +22,8 @@ String CsvLine(const Values& values, Write write) {
 
 } // namespace
 
-String CsvText(const Table& table) {
-    String text = CsvLine(table.columns, [](const String& name) { return CsvCell(name); });
+String TableCsv(const Table& table) {
+    String text = CsvLine(table.columns, [](const String& name) { return CsvText(name); });
     for (const auto& row : table.rows)
         text += CsvLine(row, CsvCell);
     return text;

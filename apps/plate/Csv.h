@@ -5,6 +5,6 @@
 namespace zorvane {
 
 /// A head line and one line a row; a text is quoted where it holds a comma, a quote or a line end.
-String CsvText(const Table& table);
+String TableCsv(const Table& table);
 
 } // namespace zorvane

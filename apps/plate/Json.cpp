@@ -37,7 +37,7 @@ String JsonRow(const Table& table, const std::vector<Cell>& row) {
 
 } // namespace
 
-String JsonText(const Table& table) {
+String TableJson(const Table& table) {
     String text = "[";
     for (const auto& row : table.rows)
         text += (&row == &table.rows.front() ? "\n  " : ",\n  ") + JsonRow(table, row);

@@ -5,6 +5,6 @@
 namespace zorvane {
 
 /// An array with one object a row, each on a line of its own. Bytes that are no UTF-8 are replaced.
-String JsonText(const Table& table);
+String TableJson(const Table& table);
 
 } // namespace zorvane

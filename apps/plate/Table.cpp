@@ -79,8 +79,8 @@ void AddFormOptions(CLI::App& options, TableForm& form) {
 }
 
 String TableText(const Table& table, TableForm form) {
-    if (form == TableForm::Csv) return CsvText(table);
-    if (form == TableForm::Json) return JsonText(table);
+    if (form == TableForm::Csv) return TableCsv(table);
+    if (form == TableForm::Json) return TableJson(table);
     return AlignedText(table);
 }
 

@@ -30,7 +30,8 @@ int Main(int argc, char** argv) {
     app.require_subcommand(1);
     app.footer("\"plate COMMAND --help\" tells more about a command.");
     const std::vector<Command> commands{MakeListCommand(app), MakeTextCommand(app),
-                                        MakeWellsCommand(app), MakeCheckCommand(app)};
+                                        MakeDrawCommand(app), MakeWellsCommand(app),
+                                        MakeCheckCommand(app)};
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -18,9 +18,10 @@ String BytesOf(const String& path) {
 
 String Quoted(const String& word) { return "'" + word + "'"; }
 
-/// What a run of the tool leaves behind. In the arguments, LIB stands for the sample library.
+/// What a run of the tool leaves behind. In the arguments, LIB stands for the sample library;
+/// without a tool they are a whole command.
 struct ToolRun {
-    explicit ToolRun(String arguments) {
+    explicit ToolRun(String arguments, const String& tool = Quoted(PLATE_TOOL)) {
         const std::size_t at = arguments.find("LIB");
         if (at != arguments.npos) arguments.replace(at, 3, Quoted(ZORVANE_SAMPLE_LIBRARY));
         const TempFile outFile;
@@ -28,7 +29,7 @@ struct ToolRun {
         // In front, so that the arguments can send the output elsewhere.
         const String redirections = ">" + Quoted(outFile.Path()) + " 2>" + Quoted(errPath) + " ";
         const int result =
-            std::system((redirections + Quoted(PLATE_TOOL) + " " + arguments).c_str());
+            std::system(("exec " + redirections + "; " + tool + " " + arguments).c_str());
         exitCode = WIFEXITED(result) ? WEXITSTATUS(result) : -1;
         out = outFile.Bytes();
         err = BytesOf(errPath);
@@ -71,11 +72,24 @@ TEST(PlateTool, AnswersWithExitCodeOutputAndMessage) {
         {"wells LIB batch_24 --json", 0,
          "[\n  {\"well\": \"A1\", \"row\": 0, \"column\": 0, \"x\": 18.88,", ""},
         {"check LIB", 0, nullptr, ""},
+        {"draw LIB batch_96 --size 800x600", 0, "<svg ", ""},
+        {"draw LIB batch_96 -o /dev/stdout --select a1,H12.Drop1", 0, "<svg ", ""},
+        {"draw LIB batch_96 --select Z9", 1, nullptr, "plate: the plate has no well Z9\n"},
+        {"draw LIB batch_96 --scale 1000", 1, nullptr,
+         "plate: batch_96 is too large to be drawn: choose a smaller scale, or check the "
+         "library\n"},
+        {"draw LIB batch_96 --data missing.csv", 1, nullptr,
+         "plate: missing.csv: cannot be read\n"},
+        {"draw LIB batch_96 -o /nowhere/a.svg", 1, nullptr,
+         "plate: /nowhere/a.svg: cannot be written\n"},
         {"wells LIB Nowhere", 1, nullptr, nullptr},
         {"text LIB Nowhere", 1, nullptr, nullptr},
         {"list missing.dat", 1, nullptr, "plate: missing.dat: File not found\n"},
         {"check missing.dat", 1, nullptr, "plate: missing.dat: File not found\n"},
         {"list LIB >/dev/full", 1, nullptr, "plate: standard output: cannot be written\n"},
+        {"draw LIB batch_96 --size 800", 2, nullptr, nullptr},
+        {"draw LIB batch_96 --scale -1", 2, nullptr, nullptr},
+        {"draw LIB batch_96 --scale 20 --size 800x600", 2, nullptr, nullptr},
         {"", 2, nullptr, nullptr},
         {"list", 2, nullptr, nullptr},
         {"list LIB --csv --json", 2, nullptr, nullptr},
@@ -126,6 +140,21 @@ TEST(PlateTool, ChecksEveryLibraryAndReportsForEditors) {
                                             "plate after it cannot be found\n    END\n    ^~~\n"),
               check.out.npos)
         << check.out;
+}
+
+TEST(PlateTool, DrawsDataOfWellsOrSaysWhereTheyAreWrong) {
+    const ToolRun good("printf 'well,defined,volume,text,error\\nA1,yes,5,<full>,0\\nB2,yes,,,7\\n'"
+                       " | " PLATE_TOOL " draw LIB batch_24 --size 800x600 --data -",
+                       "");
+    EXPECT_EQ(good.exitCode, 0) << good.err;
+    for (const char* part : {"width=\"800\" height=\"600\"", "&lt;full&gt;", ">! 7<", ">volume 5<"})
+        EXPECT_NE(good.out.find(part), good.out.npos) << part;
+
+    const ToolRun bad(
+        "printf 'well,volume\\nA1,much\\n' | " PLATE_TOOL " draw LIB batch_24 --data -", "");
+    EXPECT_EQ(bad.exitCode, 1);
+    EXPECT_EQ(bad.out, "");
+    EXPECT_EQ(bad.err, "plate: -: line 2, column 2 (volume): \"much\" is not a number\n");
 }
 
 } // namespace

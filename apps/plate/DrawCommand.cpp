@@ -1,0 +1,161 @@
+#include "apps/plate/Command.h"
+#include "apps/plate/Files.h"
+#include "apps/plate/PlatePicture.h"
+#include "apps/welldata/WellNames.h"
+#include "platform/memory/MemorySite.h"
+
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace zorvane {
+
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+constexpr int kFewestPixels = 50;
+constexpr int kMostPixels = 2184; // what 16-bit drawing units reach to
+
+struct Size {
+    int width = 0; ///< pixels
+    int height = 0;
+};
+
+struct Options {
+    String library;
+    String plate;
+    String output;
+    Single scale = 50;
+    String size;
+    std::vector<String> selected;
+    String data;
+};
+
+std::optional<Size> ParseSize(const String& text) {
+    Size size;
+    int read = 0;
+    if (std::sscanf(text.c_str(), "%5dx%5d%n", &size.width, &size.height, &read) != 2 ||
+        static_cast<std::size_t>(read) != text.size())
+        return std::nullopt;
+    const auto fits = [](int pixels) { return pixels >= kFewestPixels && pixels <= kMostPixels; };
+    return fits(size.width) && fits(size.height) ? std::optional(size) : std::nullopt;
+}
+
+String CheckSize(const String& text) {
+    if (ParseSize(text)) return {};
+    return "\"" + text + "\" is not a size from 50x50 to 2184x2184";
+}
+
+/// The number of a well named by its legend, with the sub-well's name after a full stop.
+Integer WellNamed(const WellNames& names, const String& name) {
+    const std::size_t stop = name.find('.');
+    auto position = names.FindPosition(name);
+    std::optional<Integer> subWell = Integer{1};
+    if (!position && stop != name.npos) {
+        position = names.FindPosition(name.substr(0, stop));
+        subWell = names.FindSubWell(name.substr(stop + 1));
+    }
+    if (!position || !subWell) Fail("the plate has no well " + name);
+    return static_cast<Integer>((*subWell - 1) * names.Rows() * names.Cols() + *position);
+}
+
+/// One picture in the making: a control without a window.
+class Drawing {
+  public:
+    explicit Drawing(const Options& options)
+        : options_(options), keyHeight_(options.data.empty() ? 0 : ShownWellData::kKeyHeight) {}
+
+    /// False when the plate cannot be found, which has then been said.
+    bool Load() {
+        if (const std::optional<Size> size = ParseSize(options_.size)) FitInto(*size);
+        plate_.FixedSize = !options_.size.empty();
+        plate_.HorizontalCentred = true;
+        plate_.VerticalCentred = true;
+        plate_.DrawingScale(options_.scale);
+        if (!plate_.SetPlate(options_.plate, options_.library)) return false;
+        // The layout fits the scale after it has sized the frame: a second one sizes it anew.
+        if (plate_.FixedSize) plate_.DrawingScale(plate_.DrawingScale());
+        return true;
+    }
+
+    String Picture() {
+        const WellNames names(plate_);
+        for (const String& name : options_.selected)
+            plate_.SelectWell(WellNamed(names, name), true);
+        std::optional<ShownWellData> data;
+        if (!options_.data.empty()) {
+            const String csv = ReadAll(options_.data);
+            data.emplace(WithFile(options_.data, [&] { return ShownWellData(plate_, csv); }));
+        }
+        const ShownWellData* const shown = data ? &*data : nullptr;
+        const Rect& frame = plate_.Elements().fraPlate.box;
+        return plate_.FixedSize
+                   ? PlatePicture(plate_, width_, height_, shown)
+                   : PlatePicture(plate_, frame.width, frame.height + keyHeight_, shown);
+    }
+
+  private:
+    void FitInto(Size size) {
+        width_ = static_cast<Single>(size.width * kTwipsPerPixel);
+        height_ = static_cast<Single>(size.height * kTwipsPerPixel);
+        if (height_ < keyHeight_ + kFewestPixels * kTwipsPerPixel)
+            Fail("the size leaves no room for the plate beside the key of the data");
+        site_.SetSize(width_, height_ - keyHeight_);
+    }
+
+    const Options& options_;
+    Single keyHeight_;
+    Single width_ = 0;
+    Single height_ = 0;
+    MemorySite site_;
+    Plate plate_{site_};
+};
+
+ExitCode Run(const Options& options) {
+    Drawing drawing(options);
+    try {
+        if (!drawing.Load()) return kFailed;
+    } catch (const RuntimeError& error) {
+        if (error.Number() != static_cast<Long>(ErrorNumber::Overflow)) throw;
+        Fail(options.plate +
+             " is too large to be drawn: choose a smaller scale, or check the library");
+    }
+    WriteAll(options.output, drawing.Picture());
+    return kDone;
+}
+
+void AddOptions(CLI::App& parser, Options& options) {
+    parser.add_option("library", options.library, "Plate library file")->required();
+    parser.add_option("plate", options.plate, "Name of the plate, in any letter case")->required();
+    parser.add_option("-o,--output", options.output, "SVG file; standard output if left out or -");
+    auto* const scale =
+        parser.add_option("--scale", options.scale, "Drawing units (1/1440 inch) a millimetre")
+            ->check(CLI::PositiveNumber)
+            ->capture_default_str();
+    parser.add_option("--size", options.size, "Fit the plate into WxH pixels")
+        ->check(CheckSize, "WxH")
+        ->excludes(scale);
+    parser.add_option("--select", options.selected, "Mark wells: A1,B2 or, in a sub-well, A1.Drop")
+        ->delimiter(',');
+    parser.add_option("--data", options.data, "Show data of wells from a CSV file");
+}
+
+} // namespace
+
+Command MakeDrawCommand(CLI::App& app) {
+    auto* const parser = app.add_subcommand("draw", "Draw a plate as an SVG picture");
+    auto options = std::make_shared<Options>();
+    AddOptions(*parser, *options);
+    parser->footer(
+        "The first line of a data file names its columns: well, and any of sub-well, defined,\n"
+        "volume, text, error and annotation. Volumes become colours, annotations or texts\n"
+        "captions, and wells in error get a colour and a sign.\n"
+        "Examples:\n"
+        "  plate draw Plates.Dat Batch_96 -o batch.svg --size 800x600\n"
+        "  plate draw Plates.Dat Sitting_96x2 --select A1,A2.Drop2 > sitting.svg\n"
+        "  plate draw Plates.Dat Batch_96 --data run7.csv -o run7.svg");
+    return {parser, [options] { return Run(*options); }};
+}
+
+} // namespace zorvane

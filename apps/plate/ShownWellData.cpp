@@ -1,0 +1,133 @@
+#include "apps/plate/ShownWellData.h"
+
+#include "apps/welldata/WellDataCsv.h"
+#include "runtime/NumberText.h"
+
+#include <string>
+
+namespace zorvane {
+
+namespace {
+
+constexpr Long kDefined = 0xE0B080; // light blue
+constexpr Long kInError = 0x5A64E8; // red
+
+constexpr Single kKeyLine = 240;
+constexpr Single kKeyInset = 120;
+constexpr Single kSwatchHeight = 165;
+constexpr Single kSwatchWidth = 960;
+constexpr int kSteps = 16; ///< of the scale; they divide the width into whole pixels
+
+bool IsInError(const Plate& plate, Integer well) {
+    return plate.IsDefined(well) && plate.ErrorCode(well) != 0;
+}
+
+String CaptionOf(const Plate& plate, Integer well) {
+    String caption = plate.WellAnnotation(well);
+    if (caption.empty()) caption = plate.Text(well);
+    if (!IsInError(plate, well)) return caption;
+    return "! " + (caption.empty() ? std::to_string(plate.ErrorCode(well)) : caption);
+}
+
+Rgb Painted(Long color) { return Resolve(color, SystemPalette()); }
+
+/// A square in the middle of a well, for those that are too small for a caption.
+void PaintSign(const Rect& well, Canvas& canvas) {
+    const Rect square = CentredSquare(well);
+    canvas.DrawShape({.kind = ShapeKind::Square, .fill = kWhite},
+                     square.Grown(-square.width * 0.3F));
+}
+
+String ScaleText(const VolumeScale& scale) {
+    const String least = SingleText(scale.Least());
+    const String greatest = SingleText(scale.Greatest());
+    return "volume " + (least == greatest ? least : least + " to " + greatest);
+}
+
+/// The lines of a key, from the top down.
+class KeyPainter {
+  public:
+    KeyPainter(const Rect& area, Canvas& canvas)
+        : canvas_(canvas), left_(area.left + kKeyInset), top_(area.top + kKeyInset) {}
+
+    Rect Swatch() const { return {left_, top_, kSwatchWidth, kSwatchHeight}; }
+
+    void Line(Long color, const String& text) {
+        canvas_.FillRectangle(Painted(color), Swatch());
+        Finish(text);
+    }
+
+    void ScaleLine(const String& text) {
+        constexpr Single width = kSwatchWidth / kSteps;
+        for (int i = 0; i < kSteps; ++i) {
+            const Long color = VolumeScale::ColorAt(static_cast<Double>(i) / (kSteps - 1));
+            canvas_.FillRectangle(Painted(color), {left_ + static_cast<Single>(i) * width, top_,
+                                                   width, kSwatchHeight});
+        }
+        Finish(text);
+    }
+
+  private:
+    void Finish(const String& text) {
+        canvas_.DrawRectangle(kBlack, Swatch());
+        const Rect box{Swatch().Right() + kKeyInset, top_, 0, kSwatchHeight};
+        canvas_.DrawText({.color = kBlack, .align = TextAlign::Left}, box, text);
+        top_ += kKeyLine;
+    }
+
+    Canvas& canvas_;
+    Single left_;
+    Single top_;
+};
+
+} // namespace
+
+ShownWellData::ShownWellData(Plate& plate, const String& csv)
+    : defaultColor_(plate.DefaultWellColor()) {
+    const std::vector<WellDataRow> rows = ParseWellData(csv, WellNames(plate));
+    plate.DefinedWellColor = kDefined;
+    plate.ErrorWellColor = kInError;
+    ApplyWellData(plate, rows);
+    scale_ = VolumeScale(plate);
+    for (Integer well = 0; well < plate.TotalWells(); ++well)
+        Show(plate, well);
+}
+
+void ShownWellData::Show(Plate& plate, Integer well) {
+    const std::optional<Single> volume = KnownVolume(plate, well);
+    if (IsInError(plate, well)) {
+        inError_.push_back(static_cast<std::size_t>(well));
+    } else if (volume && !scale_.Empty()) {
+        plate.CurrentWell(well);
+        plate.WellColor(std::to_string(scale_.ColorOf(*volume)));
+    }
+    plate.WellAnnotation(well, CaptionOf(plate, well));
+}
+
+void ShownWellData::PaintSigns(const Surface& surface, Canvas& canvas) const {
+    canvas.BeginGroup("errors");
+    for (const std::size_t well : inError_)
+        if (!surface.WellText[well].visible)
+            PaintSign(surface.WellBottom[well].box.Moved(surface.fraPlate.box.left,
+                                                         surface.fraPlate.box.top),
+                      canvas);
+    canvas.EndGroup();
+}
+
+void ShownWellData::PaintKey(const Rect& area, Canvas& canvas) const {
+    canvas.BeginGroup("key");
+    KeyPainter key(area, canvas);
+    if (scale_.Empty()) {
+        key.Line(kDefined, "defined");
+    } else {
+        key.ScaleLine(ScaleText(scale_));
+        key.Line(VolumeScale::kZeroColor, "volume 0");
+    }
+    key.Line(defaultColor_, scale_.Empty() ? "not defined" : "no volume");
+    const Rect swatch = key.Swatch();
+    key.Line(kInError, "error (!)");
+    PaintSign(swatch, canvas);
+    canvas.EndGroup();
+}
+
+} // namespace zorvane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "apps/welldata/VolumeScale.h"
+#include "control/Plate.h"
+#include "drawing/Canvas.h"
+
+#include <vector>
+
+namespace zorvane {
+
+/// The data of wells as a picture shows them: volumes as colours, annotations or else texts as
+/// captions, and errors as a colour and a sign.
+class ShownWellData {
+  public:
+    /// Reads comma-separated data into the wells of a plate that has been laid out, and shows them.
+    /// Error 13 for data that do not belong to the plate, which then stays as it was.
+    ShownWellData(Plate& plate, const String& csv);
+
+    /// The height that PaintKey needs.
+    static constexpr Single kKeyHeight = 1050;
+
+    /// Paints a sign on each well in error that is too small for a caption, then, in `area`, what
+    /// the colours mean.
+    void PaintSigns(const Surface& surface, Canvas& canvas) const;
+    void PaintKey(const Rect& area, Canvas& canvas) const;
+
+  private:
+    void Show(Plate& plate, Integer well);
+
+    VolumeScale scale_;
+    Long defaultColor_;
+    std::vector<std::size_t> inError_;
+};
+
+} // namespace zorvane
