@@ -91,7 +91,7 @@ void FillRecordedArray(ControlParts parts, Long color, const String& annotation,
     Integer number = 0;
     for (Integer i = 0; i < outer.count; ++i) {
         for (Integer j = 0; j < inner.count; ++j) {
-            if (number == stop) return;
+            if (number >= stop) return;
             number = Checked(number) + 1;
             if (number < startWell) continue;
             const Integer row = IsVertical(order) ? inner.At(j) : outer.At(i);

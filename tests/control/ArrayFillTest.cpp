@@ -1,0 +1,146 @@
+#include "control/ControlFixture.h"
+
+namespace zorvane {
+namespace {
+
+using Numbers = std::vector<Integer>;
+
+class ArrayFillTest : public ControlTest {
+  protected:
+    ArrayFillTest() { Load(DropOnReservoir()); }
+
+    /// The annotations of a block in the reservoirs, row by row.
+    String Captions(Integer x, Integer y, Integer width, Integer height) const {
+        String captions;
+        for (int row = y; row < y + height; ++row)
+            for (int col = x; col < x + width; ++col)
+                captions += plate.WellAnnotation(static_cast<Integer>(96 + row * 12 + col)) + " ";
+        return captions;
+    }
+};
+
+TEST_F(ArrayFillTest, SetArraySelectsABlockOfASubWell) {
+    plate.SetWell(0, 0, "Reservoir");
+    plate.SetArray(10, 6, 2, 2, "reservoir", foBottomLeftVertical, 0x0000FF);
+    EXPECT_EQ(SelectedWells(), (Numbers{96, 178, 179, 190, 191}));
+    EXPECT_EQ(plate.NSelected(), 5);
+    EXPECT_EQ(plate.CurrentWell(), 191);
+    EXPECT_EQ(Shown().WellRim[178].fill, plate.DefaultSelectColor);
+    EXPECT_EQ(Shown().WellBottom[178].fill, 0x0000FF);
+    EXPECT_EQ(plate.ArraySubwell(), ""); // hosts read SubWell
+    EXPECT_EQ(plate.SubWell(), "Reservoir");
+    EXPECT_TRUE(events.Take().empty());
+
+    // Wells selected before are neither coloured nor counted again.
+    plate.SetArray(9, 6, 2, 1, "Reservoir", foTopLeftHorizontal, 0x00FF00);
+    EXPECT_EQ(plate.NSelected(), 6);
+    EXPECT_EQ(Shown().WellBottom[177].fill, 0x00FF00);
+    EXPECT_EQ(Shown().WellBottom[178].fill, 0x0000FF);
+    plate.SetArray(0, 0, 1, 1, ""); // no colour
+    EXPECT_EQ(Shown().WellBottom[0].fill, plate.DefaultWellColor());
+}
+
+TEST_F(ArrayFillTest, ABlockOutsideThePlateIsRefusedButRecorded) {
+    struct {
+        Integer x, y, width, height;
+        Long number;
+    } cases[] = {{11, 0, 2, 1, 2999}, {0, 7, 1, 2, 2999},    {-1, 0, 1, 1, 2999},
+                 {0, -1, 1, 1, 2999}, {32767, 0, 1, 1, 6},   {0, 32767, 1, 1, 6},
+                 {5, 5, 0, 3, 0},     {12, 8, -1, -32768, 0}};
+    for (const auto& each : cases) {
+        const auto set = [&] {
+            plate.SetArray(each.x, each.y, each.width, each.height, "Reservoir", 8);
+        };
+        EXPECT_EQ(NumberRaisedBy(set), each.number) << each.x << ", " << each.y;
+        EXPECT_EQ(plate.ArrayX(), each.x);
+        EXPECT_EQ(plate.ArrayHeight(), each.height);
+        EXPECT_EQ(plate.SubWell(), "Reservoir");
+    }
+    EXPECT_TRUE(SelectedWells().empty());
+    try {
+        plate.SetArray(0, 0, 13, 1, "");
+        ADD_FAILURE() << "not refused";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Source(), "Zorvane::SelectBlock");
+        EXPECT_EQ(error.Description(), "Attempt to select wells outside <Demo> plate");
+    }
+    plate.SetArray(0, 0, 1, 1, "Reservoir");
+    plate.WellIndex(1);
+    const auto refused = [&] { plate.SetArray(10, 0, 300, 1, "Reservoir"); };
+    EXPECT_EQ(NumberRaisedBy(refused), 2999);
+    EXPECT_EQ(NumberRaisedBy([&] { plate.FillArray(1); }), 9);
+}
+
+TEST_F(ArrayFillTest, WalksInEightOrders) {
+    const char* orders[] = {"1 2 3 4 5 6 ", "1 3 5 2 4 6 ", "3 2 1 6 5 4 ", "5 3 1 6 4 2 ",
+                            "4 5 6 1 2 3 ", "2 4 6 1 3 5 ", "6 5 4 3 2 1 ", "6 4 2 5 3 1 "};
+    const Integer lastWells[] = {130, 130, 128, 128, 118, 118, 116, 116};
+    for (Long order = 0; order < 8; ++order) {
+        SCOPED_TRACE(order);
+        plate.SetArray(8, 1, 3, 2, "Reservoir", order);
+        plate.FillArray(kNoColor, "#");
+        EXPECT_EQ(Captions(8, 1, 3, 2), orders[order]);
+        EXPECT_EQ(plate.CurrentWell(), lastWells[order]);
+    }
+    for (const Long order : {-1, 8}) {
+        plate.SetArray(8, 1, 3, 2, "Reservoir", order);
+        plate.CurrentWell(0);
+        plate.FillArray(1, "");
+        EXPECT_EQ(plate.CurrentWell(), 0);
+        EXPECT_EQ(Captions(8, 1, 3, 2), orders[7]);
+    }
+}
+
+TEST_F(ArrayFillTest, FillsFromStartToStop) {
+    struct {
+        const char* text;
+        Integer start, stop;
+        const char* captions;
+    } cases[] = {
+        {"Tip #", 1, -1, "Tip 1 Tip 2 Tip 3 Tip 4 "},
+        {"#/#", 1, -1, "1/# 2/# 3/# 4/# "},
+        {"", 1, -1, "    "},
+        {"x", 1, -1, "x x x x "},
+        {kNoValue, 1, -1, "- - - - "},
+        {"#", 3, 4, "- - 3 4 "},
+        {"#", 2, 3, "- 2 3 - "},
+        {"#", 0, 2, "1 2 - - "},
+        {"#", -3, -2, "- - - - "},
+        {"#", 4, 3, "- - - - "},
+        {"#", 1, 0, "- - - - "},
+        {"#", 4, 99, "- - - 4 "},
+        {"#", 5, 99, "- - - - "},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(testing::Message() << each.text << " " << each.start << " " << each.stop);
+        plate.SetArray(0, 0, 2, 2, "Reservoir");
+        plate.FillArray(0, "-");
+        plate.FillArray(0x0000FF, each.text, each.start, each.stop);
+        EXPECT_EQ(Captions(0, 0, 2, 2), each.captions);
+    }
+}
+
+TEST_F(ArrayFillTest, ColoursTheWellsOfTheSubWellChosenLast) {
+    plate.SetArray(1, 1, 2, 1, "Reservoir");
+    plate.SubWell("Drop1");
+    plate.FillArray(0x0000FF, "#", 2);
+    EXPECT_EQ(Shown().WellBottom[13].fill, plate.DefaultWellColor());
+    EXPECT_EQ(Shown().WellBottom[14].fill, 0x0000FF);
+    EXPECT_EQ(plate.WellAnnotation(14), "2");
+    EXPECT_EQ(plate.CurrentWell(), 14);
+
+    plate.CurrentWell(0);
+    plate.FillArray(kNoColor); // only moves the current well
+    EXPECT_EQ(plate.CurrentWell(), 14);
+    EXPECT_EQ(plate.WellAnnotation(13), "");
+}
+
+TEST_F(ArrayFillTest, SixteenBitOverflow) {
+    plate.PlateClassText(
+        GridText(300, 100, SubWellText("A", 10, 10, 1), "ROWLABEL 1\r\nXPITCH 2\r\nYPITCH 1\r\n"));
+    EXPECT_EQ(NumberRaisedBy([&] { plate.SetArray(0, 0, 32767, 32767, ""); }), 2999);
+    EXPECT_EQ(NumberRaisedBy([&] { plate.FillArray(1); }), 6);
+}
+
+} // namespace
+} // namespace zorvane

@@ -1,0 +1,164 @@
+#include "TempFile.h"
+#include "control/ControlFixture.h"
+#include "platform/memory/MemoryPropertyStore.h"
+
+#include <optional>
+
+namespace zorvane {
+namespace {
+
+using Keys = std::vector<String>;
+
+class PersistenceTest : public testing::Test {
+  protected:
+    PersistenceTest() {
+        // The library's whole name is the registry's directory followed by the file's name.
+        const String suffix = "Plates(Tarvo).Dat";
+        directory = testing::TempDir() +
+                    testing::UnitTest::GetInstance()->current_test_info()->name() + ".";
+        std::ofstream(directory + suffix, std::ios::binary)
+            << "PLATE no_plate\r\nROWS 1\r\nCOLS 2\r\nXOVERALL 90\r\nYOVERALL 90\r\n"
+            << SubWellText("Only", 1, 1, 1) << OneDrop();
+    }
+    ~PersistenceTest() override {
+        std::error_code ignored;
+        std::filesystem::remove(directory + "Plates(Tarvo).Dat", ignored);
+    }
+
+    void RegisterDirectory() {
+        process.registry.Put(kLocalMachine, "Software\\Brasquel\\Directories", "GlobalDataDir",
+                             kRegistryString, directory + '\0');
+    }
+
+    String directory;
+    TestProcess process;
+    MemorySite site;
+};
+
+TEST_F(PersistenceTest, StartsWithTheDefaultLibraryAndNoPlate) {
+    EXPECT_EQ(Plate(site).FileName, "Plates(Tarvo).Dat");
+    RegisterDirectory();
+    Plate plate(site);
+    EXPECT_EQ(plate.FileName, directory + "Plates(Tarvo).Dat");
+    EXPECT_EQ(plate.PlateName(), "");
+    plate.DrawingScale(70); // lays nothing out yet
+    EXPECT_TRUE(site.repaints.empty());
+    EXPECT_EQ(NumberRaisedBy([&] { plate.TagList(); }), 91);
+}
+
+TEST_F(PersistenceTest, ANewControlAndAnEmptyStoreGiveTheSameControl) {
+    RegisterDirectory();
+    Plate placed(site);
+    placed.DefaultSelectColor = 1;
+    placed.SelectedColor = 1;
+    placed.HorizontalCentred = true;
+    placed.FileName = "elsewhere";
+    placed.DefaultWellColor(1);
+    placed.InitialProperties();
+    Plate restored(site);
+    restored.RestoreProperties(MemoryPropertyStore());
+    for (Plate* plate : {&placed, &restored}) {
+        MemoryPropertyStore store;
+        plate->SaveProperties(store);
+        const std::vector<std::pair<String, PropertyValue>> expected = {
+            {"FileName", directory + "Plates(Tarvo).Dat"},
+            {"PlateName", String("no_plate")}, // as the library writes it
+            {"FixedSize", true},
+            {"DrawingScale", plate->DrawingScale()}, // fitted
+            {"DefaultRimColor", Long{0xE0E0E0}},
+            {"DefaultSelectColor", Long{0x808080}},
+            {"DefaultWellColor", Long{0xE0E0E0}},
+            {"DeselectedColor", SystemColor(0x0F)},
+            {"SelectedColor", SystemColor(0x10)},
+            {"HorizontalCentred", false},
+            {"VerticalCentred", false},
+            {"MultipleSelect", false},
+        };
+        EXPECT_EQ(store.values, expected);
+        EXPECT_EQ(plate->DrawingScale(), (4800 - 240) / 90.0F);
+        EXPECT_EQ(plate->Elements().StyleWell.fill, 0xE0E0E0);
+        EXPECT_EQ(plate->TotalWells(), 2);
+    }
+}
+
+TEST_F(PersistenceTest, RestoresEverySettingBeforeThePlateIsLoaded) {
+    MemoryPropertyStore store;
+    store.values = {
+        {"FileName", directory + "Plates(Tarvo).Dat"},
+        {"PlateName", String("DEMO")},
+        {"FixedSize", false},
+        {"DrawingScale", Single{40}},
+        {"DefaultRimColor", Long{1}},
+        {"DefaultWellColor", Long{2}},
+        {"MultipleSelect", true},
+    };
+    Plate plate(site);
+    plate.RestoreProperties(store);
+    EXPECT_EQ(store.reads,
+              (Keys{"FixedSize", "DrawingScale", "FileName", "DefaultRimColor",
+                    "DefaultSelectColor", "DefaultWellColor", "DeselectedColor", "SelectedColor",
+                    "HorizontalCentred", "VerticalCentred", "PlateName", "MultipleSelect"}));
+    EXPECT_EQ(plate.PlateName(), "Demo");
+    EXPECT_EQ(plate.Elements().fraPlate.box, (Rect{0, 0, 4800, 3200}));
+    EXPECT_EQ(plate.Elements().WellRim[95].fill, 1);
+    EXPECT_EQ(plate.Elements().WellBottom[95].fill, 2);
+    EXPECT_EQ(plate.Elements().StyleRim.fill, 1);
+    EXPECT_TRUE(plate.MultipleSelect);
+}
+
+TEST_F(PersistenceTest, RefusesValuesOfAnotherType) {
+    const std::pair<String, PropertyValue> cases[] = {
+        {"FixedSize", String("True")},   {"DrawingScale", Long{50}},
+        {"FileName", Long{1}},           {"DefaultRimColor", Single{1}},
+        {"DefaultSelectColor", true},    {"DefaultWellColor", String("1")},
+        {"DeselectedColor", Single{1}},  {"SelectedColor", false},
+        {"HorizontalCentred", Long{-1}}, {"VerticalCentred", Single{0}},
+        {"PlateName", Long{7}},
+    };
+    for (const auto& each : cases) {
+        MemoryPropertyStore store;
+        store.values = {each};
+        Plate plate(site);
+        EXPECT_EQ(NumberRaisedBy([&] { plate.RestoreProperties(store); }), 13) << each.first;
+    }
+}
+
+TEST_F(PersistenceTest, AFailedLoadKeepsTheDrawingButNotTheDefinition) {
+    RegisterDirectory();
+    Plate plate(site);
+    ASSERT_TRUE(plate.SetPlate("demo"));
+    plate.SetWell(1, 1);
+    plate.Text(13, "kept");
+    plate.Dirty = true;
+    process.messages.onUnexpected = nullptr;
+    EXPECT_FALSE(plate.SetPlate("Demo", "missing"));
+    EXPECT_EQ(process.messages.shown.size(), 1U);
+    EXPECT_EQ(plate.FileName, "missing");
+    EXPECT_EQ(plate.PlateName(), "Demo");
+    EXPECT_TRUE(plate.Dirty);
+    EXPECT_EQ(plate.CurrentWell(), 13);
+    EXPECT_EQ(plate.Text(13), "kept");
+    EXPECT_TRUE(plate.IsSelected(13) && plate.Elements().WellRim[95].visible);
+    EXPECT_EQ(NumberRaisedBy([&] { plate.WellX(0, 0, "Drop1"); }), 5);
+}
+
+TEST_F(PersistenceTest, ALoadStartsAtTheFirstWellWithNoSubWellChosen) {
+    Plate plate(site);
+    ASSERT_TRUE(plate.SetPlate("Demo", directory + "Plates(Tarvo).Dat"));
+    plate.SetWell(7, 11);
+    plate.Dirty = true;
+    plate.PlateName("NO_PLATE");
+    EXPECT_EQ(plate.PlateName(), "no_plate");
+    EXPECT_FALSE(plate.Dirty);
+    EXPECT_EQ(plate.Location(), "Default, 0, 0");
+    EXPECT_EQ(plate.CurrentWell(), 0);
+    EXPECT_EQ(plate.SubWellCount, 1);
+    EXPECT_EQ(plate.Elements().cmdData.caption, "?");
+
+    plate.PlateClassText(DropOnReservoir());
+    EXPECT_EQ(plate.SubWellCount, 2);
+    EXPECT_EQ(plate.Elements().cmdData.caption, "");
+}
+
+} // namespace
+} // namespace zorvane

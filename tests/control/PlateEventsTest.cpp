@@ -1,0 +1,101 @@
+#include "control/PlateEvents.h"
+
+#include "control/ControlFixture.h"
+
+#include <functional>
+
+namespace zorvane {
+namespace {
+
+using Lines = std::vector<String>;
+
+/// Writes its name down, then does something to the observers.
+struct Actor : PlateObserver {
+    Actor(String itsName, Lines& itsLog) : name(std::move(itsName)), log(itsLog) {}
+    void Click() override {
+        log.push_back(name);
+        if (action) std::exchange(action, nullptr)();
+    }
+    String name;
+    Lines& log;
+    std::function<void()> action;
+};
+
+class PlateEventsTest : public testing::Test {
+  protected:
+    PlateEventsTest() {
+        for (Actor* each : {&a, &b, &c})
+            events.Add(*each);
+    }
+    Lines Raise() {
+        events.Raise([](PlateObserver& each) { each.Click(); });
+        return std::exchange(log, {});
+    }
+
+    Lines log;
+    PlateEvents events;
+    Actor a{"a", log}, b{"b", log}, c{"c", log}, d{"d", log};
+};
+
+TEST_F(PlateEventsTest, ObserversMayComeAndGoDuringAnEvent) {
+    b.action = [this] { events.Remove(b); };
+    EXPECT_EQ(Raise(), (Lines{"a", "b", "c"}));
+    EXPECT_EQ(Raise(), (Lines{"a", "c"}));
+
+    a.action = [this] {
+        events.Add(d);
+        events.Remove(c);
+    };
+    EXPECT_EQ(Raise(), Lines{"a"});
+    EXPECT_EQ(Raise(), (Lines{"a", "d"}));
+}
+
+TEST_F(PlateEventsTest, AnEventMayBeRaisedDuringAnother) {
+    a.action = [this] {
+        events.Raise([](PlateObserver& each) { each.Click(); });
+        events.Remove(a);
+        events.Add(a);
+    };
+    EXPECT_EQ(Raise(), (Lines{"a", "a", "b", "c", "b", "c"}));
+    EXPECT_EQ(Raise(), (Lines{"b", "c", "a"}));
+}
+
+TEST_F(PlateEventsTest, AFailingObserverDoesNotDisturbTheOthersForGood) {
+    b.action = [this] {
+        events.Remove(a);
+        throw RuntimeError(5, "host", "refused");
+    };
+    EXPECT_EQ(NumberRaisedBy([&] { Raise(); }), 5);
+    log.clear();
+    EXPECT_EQ(Raise(), (Lines{"b", "c"}));
+}
+
+using ControlEventsTest = ControlTest;
+
+TEST_F(ControlEventsTest, ClicksNeedAnEnabledMouse) {
+    struct {
+        const char* what;
+        void (Plate::*input)();
+        Lines events;
+        Long focus, focusWhileDisabled;
+    } cases[] = {
+        {"area", &Plate::AreaClicked, {"Click"}, 1, 1},
+        {"area twice", &Plate::AreaDoubleClicked, {"DoubleClick"}, 0, 0},
+        {"panel", &Plate::PanelClicked, {"Click"}, 0, 0},
+        {"panel twice", &Plate::PanelDoubleClicked, {"DoubleClick"}, 0, 0},
+        {"background", &Plate::BackgroundPressed, {}, 1, 0},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.what);
+        for (const Boolean enabled : {true, false}) {
+            plate.MouseEnabled(enabled);
+            site.focusRequests = 0;
+            (plate.*each.input)();
+            EXPECT_EQ(events.Take(), enabled ? each.events : Lines{});
+            EXPECT_EQ(site.focusRequests, enabled ? each.focus : each.focusWhileDisabled);
+        }
+    }
+}
+
+} // namespace
+} // namespace zorvane
