@@ -53,7 +53,7 @@ std::pair<Integer, Integer> Surface::Touched(const PaintRun& run, const Rect& ar
     const auto clamped = [&run](Double column) {
         return static_cast<Integer>(std::clamp(column, 0.0, static_cast<Double>(run.count)));
     };
-    return {clamped(std::floor((Double{area.left} - first.Right()) / run.pitch)),
+    return {clamped(std::floor((Double{area.left} - first.Right()) / run.pitch) + 1),
             clamped(std::ceil((Double{area.Right()} - first.left) / run.pitch))};
 }
 

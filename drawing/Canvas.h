@@ -15,7 +15,7 @@ namespace zorvane {
 /// one pixel wide, black, and lies inside of the box.
 struct ShapeStyle {
     ShapeKind kind = ShapeKind::Rectangle;
-    Rgb fill;
+    Rgb fill{};
     Boolean outlined = true;
 };
 
@@ -24,7 +24,7 @@ enum class TextAlign : std::uint8_t { Left, Centre };
 /// One line of text, centred vertically in its box. It is not cut off at the box's sides: whoever
 /// asks for it makes sure that it fits.
 struct TextStyle {
-    Rgb color;
+    Rgb color{};
     Boolean bold = false;
     TextAlign align = TextAlign::Centre;
 };

@@ -15,6 +15,9 @@ constexpr Single kCaptionRoom = 45;   ///< the gap in the border at either end o
 /// How far a legend may reach out of its box, which has room for one or two characters.
 constexpr Single kLegendReach = 150;
 
+/// What the text of a well leaves free of its rim at either side.
+constexpr Single kRimMargin = 30;
+
 class Painter {
   public:
     Painter(const Surface& surface, const SystemPalette& palette, Canvas& canvas)
@@ -45,7 +48,8 @@ class Painter {
 
     /// Wells and legends, whose place is relative to the plate area's corner at `x`, `y`.
     void PaintContents(Single x, Single y) const {
-        const Rect area = clip_.Moved(-x, -y);
+        // Canvases may move shapes to whole pixels, and so a little out of their boxes.
+        const Rect area = clip_.Moved(-x, -y).Grown(kPixel);
         const Rect legendArea{area.left - kLegendReach, area.top, area.width + 2 * kLegendReach,
                               area.height};
         canvas_.BeginGroup("wells");
@@ -55,10 +59,7 @@ class Painter {
             canvas_.BeginGroup({});
             for (Integer i = first; i < last; ++i) {
                 const auto element = static_cast<std::size_t>(run.first + i);
-                if (wells)
-                    PaintWell(element, x, y);
-                else
-                    PaintLegend(surface_.lblWell[element], x, y);
+                wells ? PaintWell(element, x, y) : PaintLegend(surface_.lblWell[element], x, y);
             }
             canvas_.EndGroup();
         }
@@ -72,10 +73,10 @@ class Painter {
         if (!text.visible || text.caption.empty()) return;
         Rect box = text.box;
         if (LinesIn(box) == 1) {
-            // A single line may reach as far as the rim does.
+            // A single line may reach as far as the rim does, but not out of what is repainted.
             const Rect whole = surface_.WellBox(well);
-            box.left = whole.left;
-            box.width = whole.width;
+            box.left = whole.left + kRimMargin;
+            box.width = whole.width - 2 * kRimMargin;
         }
         // Defined wells are black unless the host chooses other colours.
         const Rgb color = ReadableOn(Color(surface_.WellBottom[well].fill), Color(text.color));

@@ -4,6 +4,7 @@
 #include "runtime/NumberText.h"
 #include "runtime/Text.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace zorvane {
@@ -49,16 +50,31 @@ String Hex(Rgb color) {
     return result;
 }
 
+/// How much larger than its natural size the page is shown.
+Single ScaleOf(const SvgPage& page) {
+    const Single across = page.pixelWidth * kPixel / page.area.width;
+    const Single down = page.pixelHeight * kPixel / page.area.height;
+    if (across > 0 && down > 0) return std::min(across, down);
+    return across > 0 ? across : down > 0 ? down : 1;
+}
+
 /// Where the middle of a one-pixel line inside of a box runs.
 constexpr Rect LineIn(const Rect& box) { return box.Grown(-kPixel / 2); }
 
 } // namespace
 
 SvgCanvas::SvgCanvas(const SvgPage& page) : area_(page.area) {
+    const auto pixels = [](Single units) { return std::ceil(units / kPixel); };
+    const Single scale = ScaleOf(page);
+    const Single width = page.pixelWidth > 0 ? page.pixelWidth : pixels(area_.width * scale);
+    const Single height = page.pixelHeight > 0 ? page.pixelHeight : pixels(area_.height * scale);
+    grid_ = kPixel / std::max(std::round(scale), Single{1});
+    area_.width = std::ceil(area_.width / grid_) * grid_;
+    area_.height = std::ceil(area_.height / grid_) * grid_;
+
     svg_ = R"(<svg xmlns="http://www.w3.org/2000/svg" role="img")";
-    const bool natural = page.pixelWidth <= 0 || page.pixelHeight <= 0;
-    Attribute("width", natural ? area_.width / kPixel : page.pixelWidth);
-    Attribute("height", natural ? area_.height / kPixel : page.pixelHeight);
+    Attribute("width", width);
+    Attribute("height", height);
     svg_ += " viewBox=\"";
     for (const Single number : {area_.left, area_.top, area_.width})
         svg_ += GeneralText(number) + ' ';
@@ -73,6 +89,19 @@ SvgCanvas::SvgCanvas(const SvgPage& page) : area_(page.area) {
     groups_.push_back({{}, {"#000000", "none"}, true});
 }
 
+Single SvgCanvas::Snapped(Single position) const { return std::round(position / grid_) * grid_; }
+
+/// Sizes are whole pixels by themselves, so that equal wells stay equal.
+Rect SvgCanvas::Placed(const Rect& box) const {
+    return {Snapped(box.left), Snapped(box.top), box.width, box.height};
+}
+
+Rect SvgCanvas::WithSnappedEdges(const Rect& box) const {
+    const Single left = Snapped(box.left);
+    const Single top = Snapped(box.top);
+    return {left, top, Snapped(box.Right()) - left, Snapped(box.Bottom()) - top};
+}
+
 String SvgCanvas::Finish() {
     while (groups_.size() > 1)
         EndGroup();
@@ -82,57 +111,36 @@ String SvgCanvas::Finish() {
 
 void SvgCanvas::DrawShape(const ShapeStyle& style, const Rect& box) {
     const bool square = style.kind == ShapeKind::Square || style.kind == ShapeKind::Circle;
-    const Rect whole = square ? CentredSquare(box) : box;
+    const Rect whole = Placed(square ? CentredSquare(box) : box);
     // A shape with no room inside of its outline is all outline.
-    const bool solid = style.outlined && (whole.width <= kPixel || whole.height <= kPixel);
-    const Rect line = style.outlined && !solid ? LineIn(whole) : whole;
-    const Paint paint{Hex(solid ? kBlack : style.fill),
-                      style.outlined && !solid ? "#000000" : "none"};
-    const Single radiusX = line.width / 2;
-    const Single radiusY = line.height / 2;
+    const bool solid = style.outlined && LineIn(whole).Empty();
+    const bool outlined = style.outlined && !solid;
+    const Rect line = outlined ? LineIn(whole) : whole;
+    const String fill = Hex(solid ? kBlack : style.fill);
+    const String stroke = outlined ? "#000000" : "none";
 
     switch (style.kind) {
     case ShapeKind::Circle:
-        BeginElement("circle", paint);
-        Attribute("cx", line.left + radiusX);
-        Attribute("cy", line.top + radiusY);
-        Attribute("r", radiusX);
-        break;
     case ShapeKind::Oval:
-        BeginElement("ellipse", paint);
-        Attribute("cx", line.left + radiusX);
-        Attribute("cy", line.top + radiusY);
-        Attribute("rx", radiusX);
-        Attribute("ry", radiusY);
-        break;
-    case ShapeKind::Rounded:
-        BeginElement("rect", paint);
-        BoxAttributes(line);
-        Attribute("rx", std::min(radiusX, radiusY) / 2);
+        WriteEllipse({fill, stroke}, line);
         break;
     case ShapeKind::Rectangle:
     case ShapeKind::Square:
-        BeginElement("rect", paint);
-        BoxAttributes(line);
+        WriteBox({fill, stroke}, line);
+        break;
+    case ShapeKind::Rounded:
+        WriteBox({fill, stroke}, line, std::min(line.width, line.height) / 4);
     }
-    svg_ += "/>\n";
 }
 
 void SvgCanvas::FillRectangle(Rgb color, const Rect& box) {
-    if (box.Empty()) return;
-    BeginElement("rect", {Hex(color), "none"});
-    BoxAttributes(box);
-    Attribute("shape-rendering", "crispEdges");
-    svg_ += "/>\n";
+    const Rect edges = WithSnappedEdges(box);
+    if (!edges.Empty()) WriteBox({Hex(color), "none"}, edges);
 }
 
 void SvgCanvas::DrawRectangle(Rgb color, const Rect& box) {
-    const Rect line = LineIn(box);
-    if (line.Empty()) return;
-    BeginElement("rect", {"none", Hex(color)});
-    BoxAttributes(line);
-    Attribute("shape-rendering", "crispEdges");
-    svg_ += "/>\n";
+    const Rect line = LineIn(WithSnappedEdges(box));
+    if (!line.Empty()) WriteBox({"none", Hex(color)}, line);
 }
 
 void SvgCanvas::DrawText(const TextStyle& style, const Rect& box, std::string_view text) {
@@ -150,11 +158,13 @@ Single SvgCanvas::TextWidth(std::string_view text, Boolean bold) const {
 }
 
 void SvgCanvas::DrawInvertedOutline(const Rect& box) {
-    const Rect line = LineIn(box);
+    const Rect line = LineIn(WithSnappedEdges(box));
     if (line.Empty()) return;
     BeginElement("rect", {"none", Hex(kWhite)});
     BoxAttributes(line);
     Attribute("stroke-dasharray", kPixel);
+    // The line starts in the middle of a pixel, the dots at its edge.
+    Attribute("stroke-dashoffset", kPixel / 2);
     Attribute("style", "mix-blend-mode:difference");
     svg_ += "/>\n";
 }
@@ -170,7 +180,7 @@ void SvgCanvas::EndGroup() {
 void SvgCanvas::BeginElement(std::string_view name, const Paint& paint) {
     BeginGroups(paint);
     StartTag(name, groups_.size());
-    Colors(paint, groups_.back().paint);
+    Differences(paint, groups_.back().paint);
 }
 
 /// Writes the start tags of the groups that have had no element yet; the innermost one takes the
@@ -183,7 +193,7 @@ void SvgCanvas::BeginGroups(const Paint& paint) {
         StartTag("g", depth);
         if (!group.name.empty()) Attribute("id", group.name);
         group.paint = depth + 1 == groups_.size() ? paint : inherited;
-        Colors(group.paint, inherited);
+        Differences(group.paint, inherited);
         group.begun = true;
         svg_ += ">\n";
     }
@@ -194,7 +204,7 @@ void SvgCanvas::StartTag(std::string_view name, std::size_t depth) {
     svg_ += name;
 }
 
-void SvgCanvas::Colors(const Paint& paint, const Paint& inherited) {
+void SvgCanvas::Differences(const Paint& paint, const Paint& inherited) {
     if (paint.fill != inherited.fill) Attribute("fill", paint.fill);
     if (paint.stroke != inherited.stroke) Attribute("stroke", paint.stroke);
 }
@@ -213,6 +223,23 @@ void SvgCanvas::BoxAttributes(const Rect& box) {
     Attribute("y", box.top);
     Attribute("width", box.width);
     Attribute("height", box.height);
+}
+
+void SvgCanvas::WriteBox(const Paint& paint, const Rect& box, Single cornerRadius) {
+    BeginElement("rect", paint);
+    BoxAttributes(box);
+    if (cornerRadius > 0) Attribute("rx", cornerRadius);
+    svg_ += "/>\n";
+}
+
+void SvgCanvas::WriteEllipse(const Paint& paint, const Rect& box) {
+    const bool circle = box.width == box.height;
+    BeginElement(circle ? "circle" : "ellipse", paint);
+    Attribute("cx", box.left + box.width / 2);
+    Attribute("cy", box.top + box.height / 2);
+    Attribute(circle ? "r" : "rx", box.width / 2);
+    if (!circle) Attribute("ry", box.height / 2);
+    svg_ += "/>\n";
 }
 
 } // namespace zorvane

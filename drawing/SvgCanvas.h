@@ -10,10 +10,12 @@ namespace zorvane {
 
 /// What an SVG picture shows and how large it is.
 struct SvgPage {
-    Rect area;             ///< the part of the control that is shown, in drawing units
-    String title;          ///< read out by screen readers, shown as a tooltip
-    String description;    ///< left out when empty
-    Single pixelWidth = 0; ///< 0 for the natural size: 96 pixels an inch, 15 drawing units a pixel
+    Rect area{};          ///< the part of the control that is shown, in drawing units
+    String title{};       ///< read out by screen readers, shown as a tooltip
+    String description{}; ///< left out when empty
+    /// The size in pixels; 0 keeps the proportions, both 0 the natural size: 15 drawing units a
+    /// pixel, 96 pixels an inch.
+    Single pixelWidth = 0;
     Single pixelHeight = 0;
 };
 
@@ -49,15 +51,24 @@ class SvgCanvas final : public Canvas {
         bool begun = false;
     };
 
+    Single Snapped(Single position) const;
+    Rect Placed(const Rect& box) const;
+    Rect WithSnappedEdges(const Rect& box) const;
+
     void BeginElement(std::string_view name, const Paint& paint);
     void BeginGroups(const Paint& paint);
     void StartTag(std::string_view name, std::size_t depth);
-    void Colors(const Paint& paint, const Paint& inherited);
+    void Differences(const Paint& paint, const Paint& inherited);
     void Attribute(std::string_view name, std::string_view value);
     void Attribute(std::string_view name, Double value);
     void BoxAttributes(const Rect& box);
+    void WriteBox(const Paint& paint, const Rect& box, Single cornerRadius = 0);
+    void WriteEllipse(const Paint& paint, const Rect& box);
 
     Rect area_;
+    /// Lines start at multiples of this, which are whole pixels of the picture in its stated size,
+    /// or wells that stand close would run into each other there.
+    Single grid_ = 0;
     String svg_;
     std::vector<Group> groups_; ///< the picture itself, then the groups not ended yet
 };

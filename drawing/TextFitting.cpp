@@ -47,9 +47,8 @@ String Shortened(const Canvas& canvas, std::string_view text, Boolean bold, Sing
     std::size_t tooLong = text.size();
     while (tooLong - fits > 1) {
         const std::size_t middle = fits + (tooLong - fits) / 2;
-        const bool short_ =
-            canvas.TextWidth(text.substr(0, CharacterStart(text, middle)), bold) <= room;
-        (short_ ? fits : tooLong) = middle;
+        const std::string_view start = text.substr(0, CharacterStart(text, middle));
+        (canvas.TextWidth(start, bold) <= room ? fits : tooLong) = middle;
     }
     String result(text.substr(0, CharacterStart(text, fits)));
     result += kEllipsis;
@@ -58,10 +57,9 @@ String Shortened(const Canvas& canvas, std::string_view text, Boolean bold, Sing
 
 void DrawFittedText(Canvas& canvas, const TextStyle& style, const Rect& box,
                     std::string_view text) {
-    if (canvas.TextWidth(text, style.bold) <= box.width)
-        canvas.DrawText(style, box, text);
-    else
-        canvas.DrawText(style, box, Shortened(canvas, text, style.bold, box.width));
+    const bool fits = canvas.TextWidth(text, style.bold) <= box.width;
+    const String shortened = fits ? String() : Shortened(canvas, text, style.bold, box.width);
+    canvas.DrawText(style, box, fits ? text : shortened);
 }
 
 void DrawTextBlock(Canvas& canvas, const TextStyle& style, const Rect& box, std::string_view text) {
