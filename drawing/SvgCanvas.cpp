@@ -52,6 +52,7 @@ String Hex(Rgb color) {
 
 /// How much larger than its natural size the page is shown.
 Single ScaleOf(const SvgPage& page) {
+    if (page.area.Empty()) return 1;
     const Single across = page.pixelWidth * kPixel / page.area.width;
     const Single down = page.pixelHeight * kPixel / page.area.height;
     if (across > 0 && down > 0) return std::min(across, down);

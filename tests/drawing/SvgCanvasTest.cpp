@@ -155,6 +155,21 @@ TEST(SvgCanvasTest, GroupsStateWhatTheirElementsShare) {
     EXPECT_EQ(elements, expected);
 }
 
+TEST(SvgCanvasTest, StatesItsSize) {
+    const auto states = [](const Rect& area, Single width, Single height, const String& expected) {
+        const String svg =
+            SvgCanvas({.area = area, .pixelWidth = width, .pixelHeight = height}).Finish();
+        EXPECT_NE(svg.find(' ' + expected + '\n'), String::npos) << expected << " in " << svg;
+    };
+    const Rect page{0, 0, 6388, 4394};
+    states(page, 0, 0, R"(width="426" height="293" viewBox="0 0 6390 4395")");
+    states(page, 852, 0, R"(width="852" height="587" viewBox="0 0 6390 4395")");
+    states(page, 0, 100, R"(width="146" height="100" viewBox="0 0 6390 4395")");
+    states(page, 100, 100, R"(width="100" height="100" viewBox="0 0 6390 4395")");
+    states({0, 0, 0, 120}, 0, 0, R"(width="0" height="8" viewBox="0 0 0 120")");
+    states({0, 0, 0, 120}, 100, 100, R"(width="100" height="100" viewBox="0 0 0 120")");
+}
+
 TEST(SvgCanvasTest, EscapesAnyText) {
     const auto elements = Elements([](Canvas& canvas) {
         canvas.DrawText({}, {0, 0, 300, 195}, "a<b>&\"c\"\x01\xFF");
