@@ -68,6 +68,7 @@ void PlateWidget::PaintPlate(QPainter& painter, const QRectF& clip) {
 void PlateWidget::PaintFocusRing(QPainter& painter) {
     QStyleOptionFocusRect option;
     option.initFrom(this);
+    option.state |= QStyle::State_KeyboardFocusChange; // styles keep the ring for the keyboard
     option.rect = ToPixels(plate_->Elements().fraPlate.box).toAlignedRect() & rect();
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }

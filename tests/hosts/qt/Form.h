@@ -1,0 +1,94 @@
+#pragma once
+
+#include "TestProcess.h"
+#include "hosts/qt/PlateWidget.h"
+#include "hosts/qt/Units.h"
+
+#include <QImage>
+#include <QStringList>
+#include <QtTest/QTest>
+
+namespace zorvane {
+
+/// Four rows and six columns of two round wells, 9 mm apart: 60 pixels on screen.
+inline constexpr const char* kPlateText =
+    "PLATE Demo\r\nROWS 4\r\nCOLS 6\r\nROWLABEL A\r\nCOLLABEL 1\r\nXPITCH 9\r\nYPITCH 9\r\n"
+    "XOVERALL 70\r\nYOVERALL 50\r\n"
+    "WELL Drop\r\nSTYLE ROUND\r\nXOFFSET 14\r\nYOFFSET 10\r\nWELLSIZEX 2\r\nWELLSIZEY 2\r\n"
+    "RIMWIDTH 0.5\r\nRIMHEIGHT 0.5\r\n"
+    "WELL Reservoir\r\nSTYLE SQUARE\r\nXOFFSET 10\r\nYOFFSET 10\r\nWELLSIZEX 3\r\nWELLSIZEY 3\r\n"
+    "RIMWIDTH 0.5\r\nRIMHEIGHT 0.5\r\n";
+
+/// A window that shows a plate and writes down its signals.
+struct Form {
+    Form() {
+        process.screen.twipsPerPixelX = static_cast<Single>(15 / widget.devicePixelRatio());
+        process.screen.twipsPerPixelY = process.screen.twipsPerPixelX;
+        Plate& plate = widget.plate();
+        plate.FixedSize = false;
+        plate.DrawingScale(100);
+        plate.PlateClassText(kPlateText);
+        plate.MultipleSelect = true;
+        WriteDownSignals();
+        widget.show();
+    }
+
+    /// Where the middle of a well's rim is, in the widget.
+    QPoint At(int well) const {
+        const Surface& surface = widget.plate().Elements();
+        const Rect& rim = surface.WellRim[static_cast<std::size_t>(well)].box;
+        return ToPixels(rim.Moved(surface.fraPlate.box.left, surface.fraPlate.box.top))
+            .center()
+            .toPoint();
+    }
+
+    void Press(int well, Qt::KeyboardModifiers keys = {}) {
+        QTest::mousePress(&widget, Qt::LeftButton, keys, At(well));
+    }
+    void MoveTo(int well) { MoveTo(At(well)); }
+    void MoveTo(QPoint place) {
+        QMouseEvent event(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton,
+                          Qt::LeftButton, {});
+        QApplication::sendEvent(&widget, &event);
+    }
+    void Release(int well) { QTest::mouseRelease(&widget, Qt::LeftButton, {}, At(well)); }
+
+    QImage Picture() { return widget.grab().toImage(); }
+    /// The signals since the last call.
+    std::string Signals() {
+        const std::string text = signals_.join(", ").toStdString();
+        signals_.clear();
+        return text;
+    }
+
+    TestProcess process;
+    PlateWidget widget;
+
+  private:
+    void WriteDownSignals() {
+        const auto note = [this](const QString& text) { signals_.append(text); };
+        QObject::connect(&widget, &PlateWidget::clicked, [note] { note("clicked"); });
+        QObject::connect(&widget, &PlateWidget::doubleClicked, [note] { note("doubleClicked"); });
+        QObject::connect(&widget, &PlateWidget::wellSelected,
+                         [note](int well) { note(QString("wellSelected %1").arg(well)); });
+        QObject::connect(&widget, &PlateWidget::multipleWellsSelected,
+                         [note] { note("multipleWellsSelected"); });
+        QObject::connect(
+            &widget, &PlateWidget::mousePressed, [note](int button, int shift, float x, float y) {
+                note(QString("mousePressed %1 %2 %3 %4").arg(button).arg(shift).arg(x).arg(y));
+            });
+        QObject::connect(
+            &widget, &PlateWidget::mouseReleased, [note](int button, int shift, float x, float y) {
+                note(QString("mouseReleased %1 %2 %3 %4").arg(button).arg(shift).arg(x).arg(y));
+            });
+        QObject::connect(
+            &widget, &PlateWidget::dragMoved, [note](int button, int shift, int columns, int rows) {
+                note(
+                    QString("dragMoved %1 %2 %3 %4").arg(button).arg(shift).arg(columns).arg(rows));
+            });
+    }
+
+    QStringList signals_;
+};
+
+} // namespace zorvane

@@ -1,0 +1,121 @@
+#include "Form.h"
+
+#include <QPainter>
+
+namespace zorvane {
+
+namespace {
+
+/// The picture painted piece by piece.
+QImage PaintedInPieces(PlateWidget& widget, const QImage& like) {
+    QImage image(like.size(), like.format());
+    image.setDevicePixelRatio(like.devicePixelRatio());
+    image.fill(Qt::transparent);
+    constexpr int kPiece = 36; // falls on whole device pixels at every scale under test
+    for (int y = 0; y < widget.height(); y += kPiece)
+        for (int x = 0; x < widget.width(); x += kPiece)
+            widget.render(&image, {x, y}, QRegion(x, y, kPiece, kPiece));
+    return image;
+}
+
+} // namespace
+
+TEST(PlateWidgetPainting, PiecesMakeUpTheWhole) {
+    Form form;
+    Plate& plate = form.widget.plate();
+    for (Integer well = 0; well < plate.TotalWells(); ++well)
+        plate.WellAnnotation(well, "A-" + std::to_string(well));
+    plate.SetWell(1, 1);
+    const QImage whole = form.Picture();
+    EXPECT_EQ(PaintedInPieces(form.widget, whole), whole);
+}
+
+TEST(PlateWidgetPainting, OutlinesLeaveNoTrace) {
+    Form form;
+    form.widget.plate().SelectBoxEnabled(true);
+    form.Press(0);
+    const QImage pressed = form.Picture();
+    form.MoveTo(8);
+    EXPECT_NE(form.Picture(), pressed) << "the band shows";
+    form.MoveTo(16);
+    form.MoveTo(0);
+    EXPECT_EQ(form.Picture(), pressed) << "no band around a single well";
+    form.MoveTo(8);
+    form.Release(8);
+
+    form.widget.setDragDrop(true);
+    const QImage selected = form.Picture();
+    form.Press(8);
+    form.MoveTo(9);
+    const QImage dragged = form.Picture();
+    EXPECT_NE(dragged, selected) << "the drag outline shows";
+    form.MoveTo(16);
+    form.MoveTo(9);
+    EXPECT_EQ(form.Picture(), dragged);
+    form.widget.plate().SelectBoxEnabled(false);
+    form.Release(9);
+    form.widget.plate().SelectBoxEnabled(true);
+    QImage after = form.Picture();
+    form.widget.plate().SelectWell(0, true);
+    EXPECT_EQ(form.Picture(), after) << "nothing else was left to wipe";
+}
+
+TEST(PlateWidgetPainting, OutlinesStayWholeWhenTheHostPaintsDuringTheGesture) {
+    Form form;
+    form.widget.setDragDrop(true);
+    form.widget.plate().SetWell(0, 0);
+    const QImage before = form.Picture();
+    form.Press(0);
+    form.MoveTo(8);
+    const QImage dragged = form.Picture();
+    form.widget.plate().WellAnnotation(20, "done");
+    form.widget.plate().WellAnnotation(20, "");
+    EXPECT_EQ(form.Picture(), dragged);
+    form.Release(8);
+    EXPECT_EQ(form.Picture(), before);
+}
+
+TEST(PlateWidgetPainting, WellsStandWhereTheControlSays) {
+    Form form;
+    form.widget.plate().WellIndex(1);
+    form.widget.plate().CurrentWell(8);
+    form.widget.plate().WellColor("255");
+    const QImage picture = form.Picture();
+    const QPointF centre = QPointF(form.At(8)) * picture.devicePixelRatio();
+    EXPECT_EQ(picture.pixelColor(centre.toPoint()), QColor(Qt::red));
+}
+
+TEST(PlateWidgetPainting, OnlyTheChangedWellIsPaintedAgain) {
+    Form form;
+    QRegion painted;
+    struct Watch : QObject {
+        explicit Watch(QRegion& area) : region(area) {}
+        bool eventFilter(QObject*, QEvent* event) override {
+            if (event->type() == QEvent::Paint)
+                region |= static_cast<QPaintEvent*>(event)->region();
+            return false;
+        }
+        QRegion& region;
+    } watch(painted);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&form.widget));
+    QCoreApplication::processEvents();
+    form.widget.installEventFilter(&watch);
+    painted = {};
+    form.widget.plate().IsDefined(8, true);
+    QTest::qWait(20);
+    const QRect well(form.At(8) - QPoint(13, 13), QSize(26, 26));
+    EXPECT_FALSE(painted.isEmpty());
+    EXPECT_TRUE(well.contains(painted.boundingRect())) << painted.boundingRect().width();
+}
+
+TEST(PlateWidgetPainting, TheFocusShowsWhenTheKeyboardBroughtIt) {
+    Form form;
+    QApplication::setActiveWindow(&form.widget);
+    form.widget.setFocus(Qt::MouseFocusReason);
+    const QImage plain = form.Picture();
+    form.widget.clearFocus();
+    form.widget.setFocus(Qt::TabFocusReason);
+    EXPECT_NE(form.Picture(), plain);
+}
+
+} // namespace zorvane
