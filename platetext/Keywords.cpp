@@ -65,20 +65,24 @@ const cmPlate::LineReader::Keyword& cmPlate::LineReader::FindKeyword(std::string
         {"INCLUDE", nothing, kPlateComplete, false},
     };
 
-    // Hashed with open addressing, filled by the compiler; at most half full.
-    using Slots = std::array<const Keyword*, 2 * std::size(keywords)>;
+    // Hashed with open addressing, filled by the compiler and at most half full. A slot holds the
+    // position of a keyword counted from 1; 0 is a free one.
+    using Slots = std::array<unsigned char, 2 * std::size(keywords)>;
     static constexpr Slots slots = [] {
         Slots filled{};
-        for (const Keyword& each : keywords) {
-            std::size_t at = SlotOf(each.name, filled.size());
-            while (filled[at])
+        for (std::size_t position = 1; position <= std::size(keywords); ++position) {
+            std::size_t at = SlotOf(keywords[position - 1].name, filled.size());
+            while (filled[at] != 0)
                 at = (at + 1) % filled.size();
-            filled[at] = &each;
+            filled[at] = static_cast<unsigned char>(position);
         }
         return filled;
     }();
-    for (std::size_t at = SlotOf(word, slots.size()); slots[at]; at = (at + 1) % slots.size())
-        if (EqualNoCase(slots[at]->name, word)) return *slots[at];
+    for (std::size_t at = SlotOf(word, slots.size()); slots[at] != 0;
+         at = (at + 1) % slots.size()) {
+        const Keyword& keyword = keywords[slots[at] - 1];
+        if (EqualNoCase(keyword.name, word)) return keyword;
+    }
     return unknown;
 }
 
