@@ -219,8 +219,9 @@ class cmPlate {
         bool inPlate = false;
         std::shared_ptr<WellDetails> subWell;
         String prefix;
-        // Two texts that keep their storage, so that reading a line allocates nothing.
+        // These keep their storage, so that reading a line allocates nothing.
         String line;
+        String blanked;
         String propertyName;
     };
 
@@ -235,7 +236,7 @@ class cmPlate {
 
     /// Forgets the line that was read last, and the tags.
     void BeginReading();
-    /// Applies one line of a definition, its TABs already spaces; the result is a LineCode.
+    /// Applies one line of a definition, without CR and LF; the result is a LineCode.
     Long ParsePlateLine(std::string_view line);
     /// Applies the lines of a text for as long as the codes of the lines are at most this one.
     void ReadLines(std::string_view text, Long lastCode);

@@ -19,8 +19,9 @@ constexpr std::size_t SlotOf(std::string_view word, std::size_t slots) {
     const auto letter = [word](std::size_t at) {
         return static_cast<std::size_t>(static_cast<unsigned char>(ToUpperAscii(word[at])));
     };
-    return (word.size() + 3 * letter(0) + 5 * letter(word.size() / 2) +
-            7 * letter(word.size() - 1)) %
+    // With these factors every keyword has a slot of its own.
+    return (3 * word.size() + letter(0) + 5 * letter(word.size() / 2) +
+            15 * letter(word.size() - 1)) %
            slots;
 }
 

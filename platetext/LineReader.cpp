@@ -5,6 +5,8 @@
 #include "runtime/Rounding.h"
 #include "runtime/Text.h"
 
+#include <algorithm>
+
 /// The anatomy of a line: keyword, argument, trailing comment, and how it is recorded.
 namespace zorvane {
 
@@ -12,15 +14,29 @@ Long cmPlate::LineReader::Read(std::string_view line) {
     line = TrimStart(line);
     if (line.empty()) return kNothing;
     if (line.front() == ';') {
-        if (plate_.reader_.inPlate) plate_.Comment.append(Trim(line.substr(1))).append("\r\n");
+        if (plate_.reader_.inPlate)
+            plate_.Comment.append(Blanked(Trim(line.substr(1)))).append("\r\n");
         return kNothing;
     }
     keyword_ = NextWord(line);
-    line = Trim(line);
-    argument_ = line;
-    firstArgument_ = NextWord(line);
-    commentPlace_ = line;
+    TakeArgument(Trim(line));
+    // One word, as most arguments are, has no TAB in it.
+    if (!commentPlace_.empty()) TakeArgument(Blanked(argument_));
     return plate_.reader_.inPlate ? ReadInsidePlate() : ReadOutsidePlate();
+}
+
+void cmPlate::LineReader::TakeArgument(std::string_view argument) {
+    argument_ = argument;
+    firstArgument_ = NextWord(argument);
+    commentPlace_ = argument;
+}
+
+std::string_view cmPlate::LineReader::Blanked(std::string_view text) {
+    if (text.find('\t') == text.npos) return text;
+    String& copy = plate_.reader_.blanked;
+    copy = text;
+    std::replace(copy.begin(), copy.end(), '\t', ' ');
+    return copy;
 }
 
 Long cmPlate::LineReader::ReadOutsidePlate() {

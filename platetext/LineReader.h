@@ -29,6 +29,9 @@ class cmPlate::LineReader {
     };
     static const Keyword& FindKeyword(std::string_view word);
 
+    void TakeArgument(std::string_view argument);
+    /// The text with its TABs as spaces; good until the next call.
+    std::string_view Blanked(std::string_view text);
     Long ReadOutsidePlate();
     Long ReadInsidePlate();
     void OpenPlate();

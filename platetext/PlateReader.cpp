@@ -16,13 +16,6 @@ constexpr std::string_view kResetLine = "ResetParsePlateLine";
 constexpr Integer kOtherPlate = 1;
 constexpr Integer kIncludeMet = -1;
 
-/// The line with these control characters as spaces, in place. Most lines have none.
-std::string_view Blanked(String& line, std::string_view controls) {
-    for (const char control : controls)
-        if (line.find(control) != line.npos) std::replace(line.begin(), line.end(), control, ' ');
-    return line;
-}
-
 bool GoesOnAfter(Long code) { return code <= kPlateOpened || code == kUnknownKeyword; }
 
 } // namespace
@@ -64,7 +57,7 @@ Integer cmPlate::ReadPlate(TextFile& file) {
     do {
         lineStart = file.Position();
         file.ReadLine(reader_.line);
-        code = ParsePlateLine(Trim(Blanked(reader_.line, "\t"))); // CR and LF end lines
+        code = ParsePlateLine(Trim(reader_.line));
     } while (!file.AtEnd() && GoesOnAfter(code));
 
     switch (code) {
@@ -95,7 +88,10 @@ void cmPlate::ReadLines(std::string_view text, Long lastCode) {
         const std::size_t end = text.find(lineEnd);
         reader_.line.assign(text.substr(0, end));
         text.remove_prefix(end == text.npos ? text.size() : end + lineEnd.size());
-        code = ParsePlateLine(Blanked(reader_.line, "\t\r\n"));
+        // Alone, CR and LF end no line here.
+        std::replace(reader_.line.begin(), reader_.line.end(), '\r', ' ');
+        std::replace(reader_.line.begin(), reader_.line.end(), '\n', ' ');
+        code = ParsePlateLine(reader_.line);
     } while (!text.empty() && code <= lastCode);
 }
 

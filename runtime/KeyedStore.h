@@ -117,12 +117,22 @@ class KeyedStore {
 
   private:
     void Insert(std::size_t index, std::string_view key, Pointer item) {
-        if (byKey_.contains(key)) Raise(ErrorNumber::DuplicateKey);
+        if (FindNode(key)) Raise(ErrorNumber::DuplicateKey);
         auto node = std::make_unique<Node>(Node{String(key), std::move(item)});
-        // The map's keys look into the nodes, which never move.
-        byKey_.emplace(node->key, node.get());
         nodes_.insert(nodes_.begin() + static_cast<std::ptrdiff_t>(index), std::move(node));
         NumberFrom(index);
+        HashKeys(index);
+    }
+
+    /// Keeps the hash up with a new entry; a short list has none, its keys are searched one by one.
+    /// The hash looks into the nodes, which never move.
+    void HashKeys(std::size_t added) {
+        if (!byKey_.empty()) {
+            byKey_.emplace(nodes_[added]->key, nodes_[added].get());
+        } else if (nodes_.size() > kSearched) {
+            for (const auto& node : nodes_)
+                byKey_.emplace(node->key, node.get());
+        }
     }
 
     void NumberFrom(std::size_t index) {
@@ -137,10 +147,18 @@ class KeyedStore {
     const Node* FindNode(std::string_view key) const {
         if (expected_ < nodes_.size() && EqualNoCase(nodes_[expected_]->key, key))
             return nodes_[expected_++].get();
+        const Node* const node = byKey_.empty() ? SearchNode(key) : HashedNode(key);
+        if (node) expected_ = node->index + 1;
+        return node;
+    }
+    const Node* SearchNode(std::string_view key) const {
+        for (const auto& node : nodes_)
+            if (EqualNoCase(node->key, key)) return node.get();
+        return nullptr;
+    }
+    const Node* HashedNode(std::string_view key) const {
         const auto found = byKey_.find(key);
-        if (found == byKey_.end()) return nullptr;
-        expected_ = found->second->index + 1;
-        return found->second;
+        return found == byKey_.end() ? nullptr : found->second;
     }
     const Node& NodeOf(std::string_view key) const {
         const Node* const node = FindNode(key);
@@ -148,6 +166,8 @@ class KeyedStore {
         return *node;
     }
     static Long PositionOf(const Node& node) { return static_cast<Long>(node.index) + 1; }
+
+    static constexpr std::size_t kSearched = 8;
 
     Nodes nodes_;
     std::unordered_map<std::string_view, Node*, Hash, Equal> byKey_;

@@ -5,6 +5,7 @@
 #include "runtime/Text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <limits>
 #include <optional>
@@ -81,6 +82,32 @@ T Leading(std::string_view text) {
     return *value;
 }
 
+/// The value of a text that is a short plain decimal from end to end ("12", "-9.000"), as most
+/// numbers are. Whole numbers and powers of ten of this size are exact as Single, so the one
+/// division gives the nearest value.
+std::optional<Single> ShortDecimal(std::string_view text) {
+    constexpr std::array<Single, 8> powers{1e0F, 1e1F, 1e2F, 1e3F, 1e4F, 1e5F, 1e6F, 1e7F};
+    constexpr std::int32_t exactBelow = 1 << std::numeric_limits<Single>::digits;
+    const bool negative = text.starts_with('-');
+    if (negative) text.remove_prefix(1);
+    if (text.size() > powers.size() || text.empty() || !IsDigit(text.front())) return std::nullopt;
+    std::int32_t digits = 0;
+    std::size_t places = 0;
+    bool afterPoint = false;
+    for (const char c : text) {
+        if (c == '.' && !afterPoint) {
+            afterPoint = true;
+        } else {
+            if (!IsDigit(c)) return std::nullopt;
+            digits = 10 * digits + (c - '0');
+            places += afterPoint ? 1 : 0;
+        }
+    }
+    if (digits >= exactBelow) return std::nullopt;
+    const Single value = static_cast<Single>(digits) / powers[places];
+    return negative ? -value : value;
+}
+
 Long ParseHexadecimal(std::string_view digits) {
     std::uint32_t bits = 0;
     const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), bits, 16);
@@ -94,7 +121,10 @@ Long ParseHexadecimal(std::string_view digits) {
 
 Double LeadingNumber(std::string_view text) { return Leading<Double>(text); }
 
-Single LeadingSingle(std::string_view text) { return Leading<Single>(text); }
+Single LeadingSingle(std::string_view text) {
+    const std::optional<Single> value = ShortDecimal(text);
+    return value ? *value : Leading<Single>(text);
+}
 
 Boolean IsNumber(std::string_view text) {
     text = Trim(text);

@@ -33,11 +33,6 @@ String LowerText(std::string_view text) {
     return result;
 }
 
-bool EqualNoCase(std::string_view a, std::string_view b) {
-    // Most texts that are compared are the same letter for letter.
-    return a.size() == b.size() && (a == b || StartsWithNoCase(a, b));
-}
-
 bool StartsWithNoCase(std::string_view text, std::string_view prefix) {
     if (prefix.size() > text.size()) return false;
     return std::equal(prefix.begin(), prefix.end(), text.begin(),

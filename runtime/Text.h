@@ -31,11 +31,14 @@ constexpr std::string_view Trim(std::string_view text) { return TrimEnd(TrimStar
 String UpperText(std::string_view text);
 String LowerText(std::string_view text);
 
-/// True when both texts are the same apart from letter case.
-bool EqualNoCase(std::string_view a, std::string_view b);
-
 /// True when the text begins with the prefix apart from letter case.
 bool StartsWithNoCase(std::string_view text, std::string_view prefix);
+
+/// True when both texts are the same apart from letter case.
+inline bool EqualNoCase(std::string_view a, std::string_view b) {
+    // Most texts that are compared are the same letter for letter.
+    return a.size() == b.size() && (a == b || StartsWithNoCase(a, b));
+}
 
 /// A hash that agrees with EqualNoCase.
 std::size_t HashNoCase(std::string_view text);
