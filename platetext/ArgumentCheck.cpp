@@ -94,9 +94,10 @@ class Check {
             return findings_.Error(line_, part, "\"" + Shown(part) + "\" is taken as the name");
         if (keyword_ == "PLATE")
             return findings_.Error(line_, part, "a plate without a name can never be found");
-        if (keyword_ == "WELL")
+        if (keyword_ == "WELL") {
             return findings_.Warning(line_, part,
                                      "WELL without a name begins the sub-well DEFAULT");
+        }
         if (kind == Kind::Label || kind == Kind::Style || kind == Kind::Whole ||
             kind == Kind::Number)
             return findings_.Error(line_, part, String(keyword_) + " needs a value");
@@ -107,9 +108,10 @@ class Check {
         const std::optional<Single> value = ValueOf(word);
         if (!value) return; // a line that fails is reported as such
         if (!IsNumber(word)) return NotANumber(word, *value);
-        if (whole && FitsInteger(*value) && *value != static_cast<Single>(ToInteger(*value)))
+        if (whole && FitsInteger(*value) && *value != static_cast<Single>(ToInteger(*value))) {
             findings_.Warning(line_, word,
                               Shown(word) + " is rounded to " + std::to_string(ToInteger(*value)));
+        }
     }
 
     void NotANumber(std::string_view word, Single value) const {
@@ -153,26 +155,29 @@ class Check {
         std::string_view words = parts_.argument;
         for (auto word = NextWord(words); !word.empty(); word = NextWord(words)) {
             if (word.front() == ';') return;
-            if (word.front() == '\'')
+            if (word.front() == '\'') {
                 return findings_.Warning(line_, word,
                                          "taken as tags: a comment after TAGLIST begins with ;");
+            }
         }
     }
 
     void Coordinates() const {
-        if (parts_.keyword != keyword_)
+        if (parts_.keyword != keyword_) {
             findings_.Warning(line_, parts_.keyword,
                               "never used: coordinate keywords count in upper case only");
+        }
         std::string_view words = parts_.argument;
         for (int i = 0; i < 3; ++i) {
             const std::string_view word = NextWord(words);
             if (word.empty() || BeginsComment(word)) break;
             Number(word, false);
             const std::optional<Single> value = ValueOf(word);
-            if (!value || (i == 0 && !FitsInteger(*value)))
+            if (!value || (i == 0 && !FitsInteger(*value))) {
                 findings_.Error(line_, word,
                                 "too large: where " + String(keyword_) +
                                     " is the coordinate system, every search ends here");
+            }
         }
     }
 

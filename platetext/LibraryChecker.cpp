@@ -58,10 +58,11 @@ void LibraryChecker::OpenPlate(const LineParts& parts) {
     CheckArgument(*FindTraits("PLATE"), parts, line_, findings_);
 
     const auto [known, isNew] = plateNames_.emplace(LowerText(parts.first), line_.number);
-    if (!isNew && !parts.first.empty())
+    if (!isNew && !parts.first.empty()) {
         findings_.Error(line_, parts.first,
                         "never found: line " + std::to_string(known->second) +
                             " has a plate of this name");
+    }
 }
 
 void LibraryChecker::ClosePlate() {
@@ -92,22 +93,25 @@ void LibraryChecker::NoteRepetition(const KeywordTraits& traits, const LineParts
     if (traits.name == "WELL") return givenInSubWell_.clear();
     if (traits.argument == Kind::Tag || traits.argument == Kind::TagList) return;
     SourceLine& given = (traits.ofSubWell ? givenInSubWell_ : lines_.values)[traits.name];
-    if (given.number != 0)
+    if (given.number != 0) {
         findings_.Warning(line_, parts.keyword,
                           "replaces the " + String(traits.name) + " of line " +
                               std::to_string(given.number));
+    }
     given = line_;
 }
 
 void LibraryChecker::CheckSubWellName(const LineParts& parts) {
-    if (!EqualNoCase(parts.keyword, "WELL"))
+    if (!EqualNoCase(parts.keyword, "WELL")) {
         return findings_.Warning(line_, parts.keyword,
                                  "no WELL line before it: it begins a sub-well named DEFAULT");
+    }
     const std::size_t stop = parts.first.find('.');
-    if (stop != parts.first.npos)
+    if (stop != parts.first.npos) {
         findings_.Warning(
             line_, parts.first.substr(stop, 1),
             "a sub-well whose name has a full stop is lost when the plate is written");
+    }
 }
 
 void LibraryChecker::UnknownKeyword(const LineParts& parts) {

@@ -37,9 +37,10 @@ class Check {
         String names;
         for (const std::string_view name : kKept)
             if (!lines_.values.contains(name)) names.append(names.empty() ? "" : ", ").append(name);
-        if (!names.empty())
+        if (!names.empty()) {
             Report(Severity::Warning, {},
                    "not given and kept from the plate before, if any: " + names);
+        }
     }
 
     /// Whether the plate can be shown at all.
@@ -75,10 +76,11 @@ class Check {
         const std::int64_t wells =
             std::int64_t{plate_.Rows()} * plate_.Cols() * plate_.CompoundWell()->Count();
         if (wells == 0) Report(Severity::Warning, {}, "the plate has no sub-well");
-        if (wells > std::numeric_limits<Integer>::max())
+        if (wells > std::numeric_limits<Integer>::max()) {
             Report(Severity::Error, {},
                    "too large to be shown: " + std::to_string(wells) +
                        " wells, of which 32767 can be numbered");
+        }
     }
 
     void SubWellSizes() {

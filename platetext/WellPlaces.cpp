@@ -97,32 +97,36 @@ class Check {
         const Double nearestCol = StepsBetween(a.x, b.x, plate_.XPitch());
         const Double nearestRow = StepsBetween(a.y, b.y, plate_.YPitch());
         Double deepest = 0;
-        for (int i = 0; i < 9; ++i) {
-            const Double col = nearestCol + i % 3 - 1;
-            const Double row = nearestRow + i / 3 - 1;
-            const bool here = col == 0 && row == 0;
-            if (here || std::abs(col) >= plate_.Cols() || std::abs(row) >= plate_.Rows()) continue;
-            deepest = std::max(
-                deepest, OverlapDepth(a, b.Moved(col * plate_.XPitch(), row * plate_.YPitch())));
+        for (const int down : {-1, 0, 1}) {
+            for (const int across : {-1, 0, 1}) {
+                const Double col = nearestCol + across;
+                const Double row = nearestRow + down;
+                if (!IsOtherPosition(col, row)) continue;
+                const WellOutline moved = b.Moved(col * plate_.XPitch(), row * plate_.YPitch());
+                deepest = std::max(deepest, OverlapDepth(a, moved));
+            }
         }
         return deepest;
     }
 
-    String NameOf(std::size_t index) const;
-    void Warn(std::size_t index, String message) const;
+    /// Whether a step of so many columns and rows can lead from one position to another.
+    bool IsOtherPosition(Double col, Double row) const {
+        const bool here = col == 0 && row == 0;
+        return !here && std::abs(col) < plate_.Cols() && std::abs(row) < plate_.Rows();
+    }
+
+    String NameOf(std::size_t index) const { return Shown(places_[index].subWell->WellName()); }
+
+    void Warn(std::size_t index, String message) const {
+        const SourceLine& line = lines_.subWells[index];
+        findings_.Warning(line, LineParts(line.text).first, std::move(message));
+    }
 
     const cmPlate& plate_;
     const PlateLines& lines_;
     FindingList& findings_;
     std::vector<Place> places_;
 };
-
-String Check::NameOf(std::size_t index) const { return Shown(places_[index].subWell->WellName()); }
-
-void Check::Warn(std::size_t index, String message) const {
-    const SourceLine& line = lines_.subWells[index];
-    findings_.Warning(line, LineParts(line.text).first, std::move(message));
-}
 
 } // namespace
 

@@ -9,15 +9,21 @@ namespace {
 String JsonString(std::string_view text) {
     String quoted = "\"";
     for (const char c : PrintableUtf8(text)) {
-        if (c == '"' || c == '\\') quoted += '\\';
-        if (c == '\t')
+        // Of the control characters these three are left.
+        switch (c) {
+        case '\t':
             quoted += "\\t";
-        else if (c == '\n')
+            break;
+        case '\n':
             quoted += "\\n";
-        else if (c == '\r')
+            break;
+        case '\r':
             quoted += "\\r";
-        else
+            break;
+        default:
+            if (c == '"' || c == '\\') quoted += '\\';
             quoted += c;
+        }
     }
     return quoted + "\"";
 }

@@ -106,11 +106,13 @@ void ShownWellData::Show(Plate& plate, Integer well) {
 
 void ShownWellData::PaintSigns(const Surface& surface, Canvas& canvas) const {
     canvas.BeginGroup("errors");
-    for (const std::size_t well : inError_)
-        if (!surface.WellText[well].visible)
+    for (const std::size_t well : inError_) {
+        if (!surface.WellText[well].visible) {
             PaintSign(surface.WellBottom[well].box.Moved(surface.fraPlate.box.left,
                                                          surface.fraPlate.box.top),
                       canvas);
+        }
+    }
     canvas.EndGroup();
 }
 

@@ -57,9 +57,10 @@ String AlignedLine(const Entries& entries, const std::vector<std::size_t>& width
 String AlignedText(const Table& table) {
     const std::vector<Entries> lines = AlignedCells(table);
     std::vector<std::size_t> widths(table.columns.size());
-    for (const Entries& line : lines)
+    for (const Entries& line : lines) {
         for (std::size_t i = 0; i < line.size(); ++i)
             widths[i] = std::max(widths[i], WidthOf(line[i].text));
+    }
     String text;
     for (const Entries& line : lines)
         text += AlignedLine(line, widths);
