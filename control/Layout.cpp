@@ -94,7 +94,7 @@ class Layout {
             (Double{parts_.site.Width()} - stick.left - stick.width) / state_.xOverall;
         const Double down =
             (Double{parts_.site.Height()} - surface_.cmdData.box.height) / state_.yOverall;
-        state_.DrawingScale = static_cast<Single>(across > down ? down : across);
+        state_.DrawingScale = ToSingle(across > down ? down : across);
     }
 
     void RetireElements() {
@@ -206,11 +206,9 @@ class Layout {
         plate_.WellEnvelope(Checked(state_.Rows) - 1, 0, low, high);
         const Double scale = state_.DrawingScale;
         const Double width = surface_.lblWell[0].box.width;
-        rowLegendLeft_ =
-            std::max(static_cast<Single>(low.X() * scale - width - kLegendGap), kLeastLegendLeft);
-        columnLegendTop_ = static_cast<Single>(high.Y() * scale);
-        columnLegendLeft_ =
-            static_cast<Single>((Double{high.X()} + low.X()) * scale / 2 - width / 2);
+        rowLegendLeft_ = std::max(ToSingle(low.X() * scale - width - kLegendGap), kLeastLegendLeft);
+        columnLegendTop_ = ToSingle(high.Y() * scale);
+        columnLegendLeft_ = ToSingle((Double{high.X()} + low.X()) * scale / 2 - width / 2);
     }
 
     /// Large plates show every second legend only.

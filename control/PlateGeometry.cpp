@@ -4,6 +4,7 @@
 #include "model/Coordinate.h"
 #include "runtime/Checked.h"
 #include "runtime/NumberText.h"
+#include "runtime/Rounding.h"
 
 namespace zorvane {
 
@@ -51,9 +52,7 @@ void Plate::Style(Integer value) {
     if (const auto subWell = CurrentSubWell()) subWell->Style(value);
 }
 
-Single Plate::WellDiameter() const {
-    return static_cast<Single>((Double{WellSizeY()} + WellSizeX()) / 2);
-}
+Single Plate::WellDiameter() const { return ToSingle((Double{WellSizeY()} + WellSizeX()) / 2); }
 
 void Plate::WellDiameter(Single value) { WriteSubWell(&WellDetails::WellDiameter, value); }
 
@@ -102,34 +101,30 @@ void Plate::InitialVolume(Single value) {
     LayoutPlate(Parts(), true);
 }
 
-Single Plate::CurrentWellX() const {
-    return static_cast<Single>(Double{XPitch} * Col() + xOffset());
-}
+Single Plate::CurrentWellX() const { return ToSingle(Double{XPitch} * Col() + xOffset()); }
 
-Single Plate::CurrentWellY() const {
-    return static_cast<Single>(Double{YPitch} * Row() + yOffset());
-}
+Single Plate::CurrentWellY() const { return ToSingle(Double{YPitch} * Row() + yOffset()); }
 
 Single Plate::CurrentWellZ() const {
-    return WellIndex() > 0 ? static_cast<Single>(Double{PHeight} - Depth()) : 0;
+    return WellIndex() > 0 ? ToSingle(Double{PHeight} - Depth()) : 0;
 }
 
 Single Plate::WellX(Integer DesiredColumn, Integer /*DesiredRow*/,
                     const String& DesiredSubWell) const {
     const auto subWell = Definition().CompoundWell()->Item(DesiredSubWell);
-    return static_cast<Single>(Double{XPitch} * DesiredColumn + XLeft + subWell->xOffset());
+    return ToSingle(Double{XPitch} * DesiredColumn + XLeft + subWell->xOffset());
 }
 
 Single Plate::WellY(Integer /*DesiredColumn*/, Integer DesiredRow,
                     const String& DesiredSubWell) const {
     const auto subWell = Definition().CompoundWell()->Item(DesiredSubWell);
-    return static_cast<Single>(Double{YPitch} * DesiredRow + YTop + subWell->yOffset());
+    return ToSingle(Double{YPitch} * DesiredRow + YTop + subWell->yOffset());
 }
 
 Single Plate::WellZ(Integer /*DesiredColumn*/, Integer /*DesiredRow*/,
                     const String& DesiredSubWell) const {
     const auto subWell = Definition().CompoundWell()->Item(DesiredSubWell);
-    return static_cast<Single>(Double{PHeight} - subWell->Depth());
+    return ToSingle(Double{PHeight} - subWell->Depth());
 }
 
 } // namespace zorvane

@@ -1,6 +1,7 @@
 #include "model/Coordinate.h"
 
 #include "runtime/NumberText.h"
+#include "runtime/Rounding.h"
 #include "runtime/RuntimeError.h"
 
 #include <cmath>
@@ -39,15 +40,15 @@ Single Coordinate::Magnitude() const {
     Double squares = 0;
     for (const Double each : components_)
         squares += each * each;
-    return static_cast<Single>(std::sqrt(squares));
+    return ToSingle(std::sqrt(squares));
 }
 
 Coordinate Coordinate::Sum(const Coordinate& other) {
     Coordinate sum;
-    sum.X(components_[0] + other.X());
-    sum.Y(components_[1] + other.Y());
-    sum.Z(components_[2] + other.Z());
-    sum.V(components_[3] + other.V());
+    sum.X(ToSingle(Double{components_[0]} + other.X()));
+    sum.Y(ToSingle(Double{components_[1]} + other.Y()));
+    sum.Z(ToSingle(Double{components_[2]} + other.Z()));
+    sum.V(ToSingle(Double{components_[3]} + other.V()));
     set_ = kAllSet;
     return sum;
 }

@@ -2,6 +2,7 @@
 #include "model/cmPlate.h"
 #include "runtime/Checked.h"
 #include "runtime/NumberText.h"
+#include "runtime/Rounding.h"
 
 #include <algorithm>
 
@@ -11,10 +12,10 @@ namespace zorvane {
 namespace {
 
 struct Envelope {
-    Double left;
-    Double top;
-    Double right;
-    Double bottom;
+    Single left;
+    Single top;
+    Single right;
+    Single bottom;
 };
 
 Envelope EnvelopeOf(const WellDetails& well, Double rimY) {
@@ -22,7 +23,7 @@ Envelope EnvelopeOf(const WellDetails& well, Double rimY) {
     const Double y = Double{well.yOffset()} + well.RimCenterY();
     const Double halfX = Double{well.WellSizeX()} / 2 + well.RimWidth();
     const Double halfY = Double{well.WellSizeY()} / 2 + rimY;
-    return {x - halfX, y - halfY, x + halfX, y + halfY};
+    return {ToSingle(x - halfX), ToSingle(y - halfY), ToSingle(x + halfX), ToSingle(y + halfY)};
 }
 
 void Extend(Envelope& envelope, const Envelope& by) {
@@ -34,7 +35,8 @@ void Extend(Envelope& envelope, const Envelope& by) {
 
 /// The first row label after a quarter turn: the old columns become rows counted from the far side.
 String TurnedLabel(std::string_view columnLabel, Integer rows) {
-    if (IsNumber(columnLabel)) return GeneralText(rows + 1 - LeadingNumber(columnLabel));
+    if (IsNumber(columnLabel))
+        return GeneralText((Checked(rows) + 1).Value() - LeadingNumber(columnLabel));
     const CharacterAt first = LabelCharacter(columnLabel);
     return LabelText(Checked(rows) - Checked(first.code) + 2 * 'A' - 1, first);
 }
@@ -44,9 +46,9 @@ String TurnedLabel(std::string_view columnLabel, Integer rows) {
 void cmPlate::ShiftWells(Single dX, Single dY, Single dZ) {
     for (const auto& well : *layout_) {
         SubWell(well->WellName());
-        xOffset(well->xOffset() + dX);
-        yOffset(well->yOffset() + dY);
-        Depth(well->Depth() - dZ);
+        xOffset(ToSingle(Double{well->xOffset()} + dX));
+        yOffset(ToSingle(Double{well->yOffset()} + dY));
+        Depth(ToSingle(Double{well->Depth()} - dZ));
     }
 }
 
@@ -72,7 +74,7 @@ void cmPlate::Rotate90(const WellDetails& well) {
     const Double lastRow = (Checked(rows_) - 1).Value();
     SubWell(old.WellName());
     xOffset(old.yOffset());
-    yOffset(static_cast<Single>(Double{yOverall_} - old.xOffset() - lastRow * yPitch_));
+    yOffset(ToSingle(Double{yOverall_} - old.xOffset() - lastRow * yPitch_));
     RimHeight(old.RimWidth());
     RimWidth(old.RimHeight());
     RimCenterX(old.RimCenterY());
@@ -92,10 +94,10 @@ void cmPlate::WellEnvelope(Integer row, Integer col, Coordinate& minCorner,
     }
     const Double x = Double{xPitch_} * col;
     const Double y = Double{yPitch_} * row;
-    minCorner.X(static_cast<Single>(envelope.left + x));
-    minCorner.Y(static_cast<Single>(envelope.top + y));
-    maxCorner.X(static_cast<Single>(envelope.right + x));
-    maxCorner.Y(static_cast<Single>(envelope.bottom + y));
+    minCorner.X(ToSingle(envelope.left + x));
+    minCorner.Y(ToSingle(envelope.top + y));
+    maxCorner.X(ToSingle(envelope.right + x));
+    maxCorner.Y(ToSingle(envelope.bottom + y));
 }
 
 Coordinate cmPlate::WellCentroid(Integer row, Integer col) const {
@@ -103,8 +105,8 @@ Coordinate cmPlate::WellCentroid(Integer row, Integer col) const {
     Coordinate maxCorner;
     WellEnvelope(row, col, minCorner, maxCorner);
     Coordinate centroid;
-    centroid.X(static_cast<Single>((Double{minCorner.X()} + maxCorner.X()) / 2));
-    centroid.Y(static_cast<Single>((Double{minCorner.Y()} + maxCorner.Y()) / 2));
+    centroid.X(ToSingle((Double{minCorner.X()} + maxCorner.X()) / 2));
+    centroid.Y(ToSingle((Double{minCorner.Y()} + maxCorner.Y()) / 2));
     return centroid;
 }
 

@@ -32,4 +32,9 @@ Integer ToInteger(Double value) { return ToWhole<Integer>(value); }
 
 Long ToLong(Double value) { return ToWhole<Long>(value); }
 
+Single ToSingle(Double value) {
+    if (!(std::fabs(value) <= std::numeric_limits<Single>::max())) Raise(ErrorNumber::Overflow);
+    return static_cast<Single>(value);
+}
+
 } // namespace zorvane

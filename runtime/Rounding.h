@@ -13,4 +13,7 @@ Integer ToInteger(Double value);
 /// RoundHalfEven as a 32-bit number; error 6 when the result (or a NaN) does not fit.
 Long ToLong(Double value);
 
+/// The nearest Single; error 6 when the value is too large for one, infinite or not a number.
+Single ToSingle(Double value);
+
 } // namespace zorvane

@@ -46,5 +46,13 @@ TEST(Coordinate, MeasuresAddsAndCopies) {
     EXPECT_EQ(point.AsText(), "(3.0, 4.0, 0.0, 0.0)") << "a sum sets all of the point's own flags";
 }
 
+TEST(Coordinate, FailsOnWhatIsTooLarge) {
+    Coordinate point;
+    point.X(3e38F);
+    point.Y(3e38F);
+    EXPECT_EQ(NumberRaisedBy([&] { point.Magnitude(); }), 6);
+    EXPECT_EQ(NumberRaisedBy([&] { point.Sum(point); }), 6);
+}
+
 } // namespace
 } // namespace zorvane

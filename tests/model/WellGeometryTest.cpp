@@ -79,5 +79,28 @@ TEST(WellGeometry, FindsEnvelopesAndCentroids) {
     EXPECT_EQ(NumberRaisedBy([] { cmPlate().WellCentroid(0, 0); }), 9);
 }
 
+TEST(WellGeometry, FourTurnsGiveTheSamePlate) {
+    for (const char* const labels :
+         {"ROWLABEL A\r\nCOLLABEL 1", "ROWLABEL 1\r\nCOLLABEL A", "ROWLABEL H\r\nCOLLABEL 12"}) {
+        cmPlate plate = Read((String("PLATE P\r\nROWS 8\r\nCOLS 12\r\nXPITCH 9\r\nYPITCH 8\r\n"
+                                     "XOVERALL 128\r\nYOVERALL 85\r\nWELL D\r\nXOFFSET -2\r\n"
+                                     "YOFFSET 3\r\nRIMCENTERX 1\r\nRIMHEIGHT 2\r\nRIMWIDTH 1\r\n") +
+                              labels)
+                                 .c_str());
+        const String before = plate.AsText() + plate.WellLegend(7, 11);
+        for (int turn = 0; turn < 4; ++turn)
+            plate.Rotate90();
+        EXPECT_EQ(plate.AsText() + plate.WellLegend(7, 11), before);
+    }
+}
+
+TEST(WellGeometry, FailsOnWhatIsTooLarge) {
+    cmPlate large = Read("PLATE P\r\nCOLS 32767\r\nXPITCH 3e38\r\nWELL D\r\nXOFFSET 3e38");
+    EXPECT_EQ(NumberRaisedBy([&] { large.WellCentroid(0, 2); }), 6);
+    EXPECT_EQ(NumberRaisedBy([&] { large.ShiftWells(3e38F, 0, 0); }), 6);
+    EXPECT_EQ(large.CompoundWell()->Item(1)->xOffset(), 3e38F);
+    EXPECT_EQ(NumberRaisedBy([&] { large.Rotate90(); }), 6) << "one row more than there can be";
+}
+
 } // namespace
 } // namespace zorvane

@@ -44,6 +44,9 @@ TEST(Rounding, FailsOutsideTheTypeAndOnNoNumber) {
         EXPECT_EQ(NumberRaisedBy([&] { ToInteger(value); }), 6) << value;
     EXPECT_EQ(NumberRaisedBy([&] { ToLong(2147483647.5); }), 6);
     EXPECT_EQ(ToLong(-2147483648.0), -2147483647 - 1);
+    for (const Double value : {3.5e38, -1e39, HUGE_VAL, std::nan("")})
+        EXPECT_EQ(NumberRaisedBy([&] { ToSingle(value); }), 6) << value;
+    EXPECT_EQ(ToSingle(-0.1), -0.1F);
 }
 
 } // namespace
