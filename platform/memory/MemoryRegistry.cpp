@@ -35,9 +35,7 @@ Long MemoryRegistry::OpenKey(Long root, const String& key, Long /*access*/, Hand
 
 Long MemoryRegistry::CreateKey(Long root, const String& key, Long /*access*/, Handle& opened) {
     if (refusal_ != kRegistrySuccess) return refusal_;
-    auto& slot = keys_[{root, LowerText(key)}];
-    if (!slot) slot = std::make_unique<Key>();
-    opened = OpenHandle(*slot);
+    opened = OpenHandle(MakeKey(root, LowerText(key)));
     return kRegistrySuccess;
 }
 
@@ -90,6 +88,18 @@ void MemoryRegistry::Put(Long root, const String& key, const String& name, Long 
     CreateKey(root, key, kAllAccess, opened);
     SetValue(opened, name, type, data);
     CloseKey(opened);
+}
+
+MemoryRegistry::Key& MemoryRegistry::MakeKey(Long root, const String& path) {
+    Key* made = nullptr;
+    std::size_t end = 0;
+    do {
+        end = path.find('\\', end + 1);
+        auto& key = keys_[{root, path.substr(0, end)}];
+        if (!key) key = std::make_unique<Key>();
+        made = key.get();
+    } while (end != path.npos);
+    return *made;
 }
 
 MemoryRegistry::Key* MemoryRegistry::KeyOf(Handle handle) {

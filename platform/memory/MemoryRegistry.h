@@ -33,6 +33,8 @@ class MemoryRegistry final : public Registry {
   private:
     struct Value;
     struct Key;
+    /// The key of a folded path; makes what is missing of the path.
+    Key& MakeKey(Long root, const String& path);
     Key* KeyOf(Handle handle);
     Handle OpenHandle(Key& key);
 

@@ -23,6 +23,8 @@ TEST(MemoryRegistry, IgnoresCaseAndListsInTheOrderFirstWritten) {
     EXPECT_EQ(registry.EnumValue(key, 2, 256, 256, name, data), kRegistryNoMoreItems);
     EXPECT_EQ(registry.CloseKey(key), kRegistrySuccess);
     EXPECT_EQ(registry.OpenHandles(), 0);
+    EXPECT_EQ(registry.OpenKey(kLocalMachine, "software", kReadAccess, key), kRegistrySuccess)
+        << "made on the way";
 }
 
 TEST(MemoryRegistry, KeepsRootsApartAndChecksCapacities) {
