@@ -39,9 +39,9 @@ class Layout {
         if (state_.FixedSize) FitScaleToControl();
         surface_.fraPlate.visible = false;
         surface_.paintOrder.clear();
+        if (subWells_.Count() > 0) AnchorLegends();
         RetireElements();
-        if (subWells_.Count() > 0) LayOutSubWells();
-        state_.WellElements = state_.TotalWells;
+        LayOutSubWells();
         ShowShapes();
         CentreFrames();
         state_.LayoutBusy = false;
@@ -98,9 +98,9 @@ class Layout {
     }
 
     void RetireElements() {
-        const auto kept = static_cast<std::size_t>(std::max<Integer>(state_.TotalWells, 0));
-        surface_.DestroyWellsFrom(kept);
-        state_.Wells.ReleaseFrom(std::max<std::size_t>(kept, 1));
+        const auto wells = static_cast<std::size_t>(std::max<Integer>(state_.TotalWells, 0));
+        surface_.ResizeWells(wells);
+        state_.Wells.ReleaseFrom(std::max<std::size_t>(wells, 1));
         // Also when the plate shrank, so that a later, larger one creates the records afresh.
         state_.WellsAllocated = state_.TotalWells;
         for (Shape& rim : surface_.WellRim)
@@ -114,7 +114,6 @@ class Layout {
     }
 
     void LayOutSubWells() {
-        AnchorLegends();
         const Integer count = static_cast<Integer>(subWells_.Count());
         SubWellShapes shapes;
         for (Integer position = count; position >= 1; --position) {
@@ -155,7 +154,6 @@ class Layout {
 
     void LayOutRow(const SubWellDrawing& drawing, Single y, std::size_t first) {
         if (state_.Cols < 1) return;
-        surface_.CreateWells(first + static_cast<std::size_t>(state_.Cols));
         OnSurface(y);
         Single x = drawing.originX;
         for (Integer column = 0; column < state_.Cols; ++column) {
@@ -173,11 +171,10 @@ class Layout {
         Shape& rim = surface_.WellRim[well];
         rim.kind = drawing.shapes.rim;
         rim.box = {x - drawing.rimHalfWidth, y - drawing.rimHalfHeight,
-                   static_cast<Single>(2 * drawing.rimHalfWidth),
-                   static_cast<Single>(2 * drawing.rimHalfHeight)};
+                   static_cast<Single>(drawing.rimWidth), static_cast<Single>(drawing.rimHeight)};
 
         Shape& bottom = surface_.WellBottom[well];
-        const Single size = static_cast<Single>(2 * drawing.wellHalfSize);
+        const Single size = static_cast<Single>(drawing.wellSize);
         bottom.kind = drawing.shapes.bottom;
         bottom.border = drawing.bottomBorder;
         bottom.box = {x - drawing.wellHalfSize, y - drawing.wellHalfSize,
@@ -262,7 +259,6 @@ class Layout {
 
     void ShowShapes() {
         if (state_.TotalWells < 1) return;
-        surface_.CreateWells(static_cast<std::size_t>(state_.TotalWells));
         for (Shape& rim : surface_.WellRim)
             rim.visible = true;
         for (Shape& bottom : surface_.WellBottom)

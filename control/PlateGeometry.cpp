@@ -96,8 +96,9 @@ void Plate::InitialVolume(Single value) {
     const Checked perSubWell = Checked(Cols) * Rows;
     const Integer first = (Checked(WellIndex()) - 1) * perSubWell;
     const Integer last = Checked(WellIndex()) * perSubWell - 1;
+    const String tag = SingleText(value);
     for (Long i = first; i <= last; ++i)
-        TagOf(surface_, static_cast<Integer>(i)) = SingleText(value);
+        TagOf(surface_, static_cast<Integer>(i)) = tag;
     LayoutPlate(Parts(), true);
 }
 

@@ -64,9 +64,8 @@ struct PlateState : PlateFields {
     std::unique_ptr<cmPlate> PlateDef;
     WellRecords Wells;
     Integer WellsAllocated = 0;
-    Integer WellElements = 0; ///< well element triples laid out by the previous layout
-    Integer SavedHeight = 0;  ///< control height before the details panel was opened
-    Integer GridTop = 0;      ///< drawing units, as the next three
+    Integer SavedHeight = 0; ///< control height before the details panel was opened
+    Integer GridTop = 0;     ///< drawing units, as the next three
     Integer GridLeft = 0;
     Integer ColumnPitch = 0;
     Integer RowPitch = 0;

@@ -12,25 +12,16 @@ Surface::Surface() {
     cmdData.caption = "?";
     StyleRim.box = {1380, 735, 255, 255};
     StyleWell.box = {1440, 795, 135, 135};
-    CreateWells(1);
+    ResizeWells(1);
     CreateLegends(1);
 }
 
-void Surface::CreateWells(std::size_t count) {
-    if (count <= WellRim.size()) return;
-    WellRim.resize(count);
-    WellBottom.resize(count);
-    WellText.resize(count);
-    WellTag.resize(count);
-}
-
-void Surface::DestroyWellsFrom(std::size_t count) {
-    const std::size_t kept = std::max<std::size_t>(count, 1);
-    if (WellRim.size() <= kept) return;
-    WellRim.resize(kept);
-    WellBottom.resize(kept);
-    WellText.resize(kept);
-    WellTag.resize(kept);
+void Surface::ResizeWells(std::size_t count) {
+    const std::size_t elements = std::max<std::size_t>(count, 1);
+    WellRim.resize(elements);
+    WellBottom.resize(elements);
+    WellText.resize(elements);
+    WellTag.resize(elements);
 }
 
 void Surface::CreateLegends(std::size_t count) {

@@ -101,10 +101,10 @@ struct Surface {
     String plateToolTip;
     PointerShape platePointer = PointerShape::Standard;
 
-    /// Makes sure that the elements 0 to `count` - 1 exist.
-    void CreateWells(std::size_t count);
-    /// Destroys the elements from `count` up, but never element 0.
-    void DestroyWellsFrom(std::size_t count);
+    /// Creates or destroys elements so that there is one for each of so many wells; element 0
+    /// stays.
+    void ResizeWells(std::size_t count);
+    /// Makes sure that the legends 0 to `count` - 1 exist.
     void CreateLegends(std::size_t count);
 
     /// The box that holds a well's rim, bottom and text, in the plate area.

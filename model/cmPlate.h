@@ -39,7 +39,7 @@ class cmPlate {
 
     // --- Plain values, not recorded ---
 
-    String PlateName() const { return plateName_; }
+    const String& PlateName() const { return plateName_; }
     void PlateName(const String& value) { plateName_ = value; }
     /// A status code; 0 once a definition begins to be read.
     Integer Status() const { return status_; }

@@ -17,7 +17,7 @@ Surface SurfaceWithWells(Integer rows, Integer columns) {
     Surface surface;
     surface.fraPlate.box = {1000, 2000, 3000, 3000};
     surface.cmdData.visible = false;
-    surface.CreateWells(static_cast<std::size_t>(rows * columns));
+    surface.ResizeWells(static_cast<std::size_t>(rows * columns));
     for (Integer row = 0; row < rows; ++row) {
         const auto first = static_cast<Integer>(row * columns);
         for (Integer column = 0; column < columns; ++column) {

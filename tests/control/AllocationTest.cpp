@@ -1,0 +1,69 @@
+#include "TestProcess.h"
+#include "control/ControlFixture.h"
+#include "control/CountedMemory.h"
+#include "control/DrawingLog.h"
+
+namespace zorvane {
+namespace {
+
+String ThreeDrops(int rows, int cols) {
+    return GridText(rows, cols,
+                    SubWellText("Drop1", 10, 10, 1) + SubWellText("Drop2", 11, 10, 1) +
+                        SubWellText("Reservoir", 10, 11, 1),
+                    "ROWLABEL 1\r\nXPITCH 2\r\nYPITCH 2\r\n");
+}
+
+class AllocationTest : public testing::Test {
+  protected:
+    TestProcess process;
+    DrawingSite site;
+    Plate plate{site};
+};
+
+TEST_F(AllocationTest, ALayoutOfTheSamePlateAllocatesNothing) {
+    String longName = ThreeDrops(32, 48);
+    longName.replace(longName.find("Demo"), 4, "A plate whose name needs memory of its own");
+    const String texts[] = {OneDrop(), ThreeDrops(16, 24), longName, GridText(8, 12, "")};
+    for (const String& text : texts) {
+        for (const Boolean fixedSize : {true, false}) {
+            plate.FixedSize = fixedSize;
+            plate.PlateClassText(text);
+            plate.WellIndex(1);
+            if (plate.SubWellCount > 0) plate.InitialVolume(2.5F);
+            const std::size_t before = MemoryAskedFor().allocations;
+            plate.DrawingScale(plate.DrawingScale());
+            if (plate.SubWellCount > 0) plate.InitialVolume(2.5F); // with a full reset
+            EXPECT_EQ(MemoryAskedFor().allocations - before, 0U)
+                << plate.PlateName() << ", " << plate.TotalWells();
+        }
+    }
+}
+
+TEST_F(AllocationTest, AWellNumberTakesAtMost256Bytes) {
+    for (const int rows : {217, 72}) {
+        plate.PlateClassText(GridText(1, 1, ""));
+        const String text = rows == 217 ? GridText(217, 151, SubWellText("Drop1", 10, 10, 1),
+                                                   "ROWLABEL 1\r\nXPITCH 2\r\nYPITCH 2\r\n")
+                                        : ThreeDrops(72, 151);
+        const std::size_t before = MemoryAskedFor().bytes;
+        plate.PlateClassText(text);
+        ASSERT_GT(plate.TotalWells(), 32000);
+        EXPECT_LE(static_cast<double>(MemoryAskedFor().bytes - before) / plate.TotalWells(), 256);
+    }
+}
+
+TEST_F(AllocationTest, ShowingAWellAllocatesNothing) {
+    plate.PlateClassText(ThreeDrops(16, 24));
+    plate.MultipleSelect = true;
+    plate.SetWell(0, 0);
+    const std::size_t before = MemoryAskedFor().allocations;
+    plate.SetWell(5, 5, "Drop2", wsAddToSelection);
+    plate.WellColor("255");
+    plate.IsDefined(7, true);
+    plate.WellAnnotation(7, "short");
+    plate.MouseToWell(500, 500);
+    EXPECT_EQ(MemoryAskedFor().allocations - before, 0U);
+}
+
+} // namespace
+} // namespace zorvane
