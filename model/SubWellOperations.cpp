@@ -64,11 +64,13 @@ struct Block {
 void SwapBlocks(TStringPairList& list, const Block& earlier, const Block& later) {
     const Checked front = Checked(earlier.at) - 1;
     MoveBlock(list, later.at, later.length, front, later.prefix);
-    if (front.Value() == 0) // The later block could only go to the end; the earlier one follows it.
+    if (front.Value() == 0) {
+        // The later block could only go to the end; the earlier one follows it.
         MoveBlock(list, earlier.at, earlier.length, 0, earlier.prefix);
-    else
+    } else {
         MoveBlock(list, Checked(earlier.at) + later.length, earlier.length,
                   Checked(later.at) + later.length - 2, earlier.prefix);
+    }
 }
 
 } // namespace
@@ -76,19 +78,21 @@ void SwapBlocks(TStringPairList& list, const Block& earlier, const Block& later)
 void cmPlate::AddSubWell(const std::shared_ptr<WellDetails>& subWell, Integer index,
                          const std::shared_ptr<WellDetails>& parent) {
     layout_->AddSubWell(subWell, index);
-    if (parent)
+    if (parent) {
         RecordLikeParent(subWell->WellName(), parent->WellName() + ".");
-    else
+    } else {
         ReadLines(SubWellText(*subWell, ""), kApplied);
+    }
 }
 
 void cmPlate::RecordLikeParent(const String& name, const String& parentPrefix) {
     // The new pairs may themselves begin with the parent's prefix, so the list is read before.
+    const String prefix = name + ".";
     std::vector<std::shared_ptr<TStringPair>> added;
     for (const auto& each : Properties) {
         if (!StartsWithNoCase(each->Name(), parentPrefix)) continue;
         const String keyword = each->Name().substr(parentPrefix.size());
-        added.push_back(std::make_shared<TStringPair>(name + "." + keyword,
+        added.push_back(std::make_shared<TStringPair>(prefix + keyword,
                                                       keyword == "Well" ? name : each->Value()));
     }
     for (const auto& each : added)
@@ -117,12 +121,12 @@ void cmPlate::RenameBlock(const WellDetails& subWell, const String& newName) {
     if (block.at == 0) return;
     const auto well = Properties.Pair(Long{block.at});
     if (!EqualNoCase(well->Value(), newName)) well->Value(newName);
+    const String prefix = newName + ".";
     Integer at = block.at;
     for (Integer left = block.length; left > 0 && InBlock(Properties, at, block.prefix); --left) {
         const auto old = Properties.Pair(Long{at});
         const String keyword = old->Name().substr(block.prefix.size());
-        ReplacePair(Properties, at,
-                    std::make_shared<TStringPair>(newName + "." + keyword, old->Value()));
+        ReplacePair(Properties, at, std::make_shared<TStringPair>(prefix + keyword, old->Value()));
         if (at > 1) at = Checked(at) + 1;
     }
 }
@@ -131,10 +135,8 @@ void cmPlate::SwapSubWells(Integer index1, Integer index2) {
     const Block first(Properties, *layout_->Item(index1));
     const Block second(Properties, *layout_->Item(index2));
     if (first.at == 0 || second.at == 0) return;
-    if (first.at < second.at)
-        SwapBlocks(Properties, first, second);
-    else if (second.at < first.at)
-        SwapBlocks(Properties, second, first);
+    if (first.at < second.at) SwapBlocks(Properties, first, second);
+    if (second.at < first.at) SwapBlocks(Properties, second, first);
     layout_->Swap(index1, index2);
 }
 

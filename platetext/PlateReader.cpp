@@ -75,7 +75,8 @@ Integer cmPlate::ReadPlate(TextFile& file) {
     }
 }
 
-void cmPlate::SetFromText(String text) {
+// By value: the text may be one of this object's own, which reading overwrites.
+void cmPlate::SetFromText(String text) { // NOLINT(performance-unnecessary-value-param)
     BeginReading();
     // An unknown keyword ends the reading here, though not in a library file.
     ReadLines(text, kPlateOpened);
