@@ -1,0 +1,46 @@
+#include "apps/viewer/CurrentWellMark.h"
+
+#include "apps/viewer/PlateSession.h"
+#include "hosts/qt/Units.h"
+
+#include <QPainter>
+
+namespace zorvane {
+
+namespace {
+
+constexpr int kMargin = 4;
+
+} // namespace
+
+CurrentWellMark::CurrentWellMark(PlateSession& session)
+    : QWidget(&session.Widget()), session_(session) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::NoFocus);
+    connect(&session, &PlateSession::changed, this, &CurrentWellMark::Follow);
+    Follow();
+}
+
+void CurrentWellMark::Follow() {
+    const auto well = session_.CurrentWell();
+    const Surface& surface = session_.Control().Elements();
+    setVisible(well && surface.fraPlate.visible && !surface.fraData.visible);
+    if (!isVisibleTo(parentWidget())) return;
+    const QRectF rim = ToPixels(surface.WellRim[static_cast<std::size_t>(*well)].box);
+    const QPointF origin = ToPixels(surface.fraPlate.box).topLeft();
+    setGeometry(
+        rim.translated(origin).toAlignedRect().adjusted(-kMargin, -kMargin, kMargin, kMargin));
+}
+
+// Two rings, one light and one dark, show on wells of any colour.
+void CurrentWellMark::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF ring = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
+    painter.setPen(QPen(palette().color(QPalette::Base), 3));
+    painter.drawRoundedRect(ring, kMargin, kMargin);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRoundedRect(ring, kMargin, kMargin);
+}
+
+} // namespace zorvane

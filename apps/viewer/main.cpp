@@ -1,0 +1,74 @@
+#include "apps/viewer/MainWindow.h"
+#include "apps/viewer/Picture.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QStyle>
+#include <QTextStream>
+
+namespace {
+
+using namespace zorvane;
+
+constexpr int kFailed = 1;
+
+struct Options {
+    QString picture;
+    QString output;
+    QString library;
+};
+
+Options ReadOptions(const QApplication& app) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QApplication::tr("Shows the plates of a library, and the data of their wells."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOption({QStringLiteral("picture"),
+                      QApplication::tr("Write the picture of a plate to a file and exit."),
+                      QStringLiteral("plate")});
+    parser.addOption({{QStringLiteral("o"), QStringLiteral("output")},
+                      QApplication::tr("The image file that --picture writes."),
+                      QStringLiteral("file")});
+    parser.addPositionalArgument(QStringLiteral("library"),
+                                 QApplication::tr("Plate library to open."),
+                                 QStringLiteral("[library]"));
+    parser.process(app);
+    const QStringList files = parser.positionalArguments();
+    const Options options{parser.value(QStringLiteral("picture")),
+                          parser.value(QStringLiteral("output")), files.value(0)};
+    const bool incomplete = parser.isSet(QStringLiteral("picture")) &&
+                            (options.output.isEmpty() || options.library.isEmpty());
+    if (incomplete || files.size() > 1) parser.showHelp(kFailed);
+    return options;
+}
+
+int Draw(const Options& options) {
+    const QString failure = WritePicture(options.library, options.picture, options.output);
+    if (failure.isEmpty()) return 0;
+    QTextStream(stderr) << "plate-viewer: " << failure << "\n";
+    return kFailed;
+}
+
+/// Where the platform has no style of its own.
+void ChooseStyle() {
+    if (QApplication::style()->name() == QLatin1String("windows")) QApplication::setStyle("fusion");
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("Zorvane"));
+    QApplication::setApplicationName(QStringLiteral("plate-viewer"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Plate Viewer"));
+    QApplication::setApplicationVersion(QStringLiteral(PLATE_VIEWER_VERSION));
+    ChooseStyle();
+
+    const Options options = ReadOptions(app);
+    if (!options.picture.isEmpty()) return Draw(options);
+    MainWindow window;
+    window.show();
+    if (!options.library.isEmpty()) window.OpenLibrary(options.library);
+    return QApplication::exec();
+}
