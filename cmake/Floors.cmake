@@ -6,13 +6,9 @@ target_compile_features(zorvane_options INTERFACE cxx_std_20)
 if(NOT MSVC)
     target_compile_options(zorvane_options INTERFACE
         -Wall -Wextra -Wpedantic -Wconversion -Wshadow
-        # GCC 12 takes harmless std::string code for overlapping copies when it optimises.
-        $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+        # Optimising, GCC 12 takes one-character texts given to std::string for overlapping copies.
+        $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
         $<$<BOOL:${ZORVANE_WARNINGS_AS_ERRORS}>:-Werror>)
-    # Optimising, GCC 12 takes one-character texts given to std::string for overlapping copies.
-    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-        target_compile_options(zorvane_options INTERFACE -Wno-restrict)
-    endif()
 endif()
 if(ZORVANE_SANITIZE)
     target_compile_options(zorvane_options INTERFACE

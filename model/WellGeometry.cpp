@@ -70,7 +70,9 @@ void cmPlate::Rotate90() {
 }
 
 void cmPlate::Rotate90(const WellDetails& well) {
-    const WellDetails old = well;
+    // The setters change the sub-well while it is being read.
+    WellDetails old;
+    old.Copy(well);
     const Double lastRow = (Checked(rows_) - 1).Value();
     SubWell(old.WellName());
     xOffset(old.yOffset());

@@ -14,7 +14,9 @@ namespace {
 constexpr Single kMostPixels = 8192;
 
 Long PixelsOf(Single length, Single twipsPerPixel) {
-    return static_cast<Long>(std::clamp<Single>(length / twipsPerPixel, 0, kMostPixels));
+    const Single pixels = length / twipsPerPixel;
+    // A screen without a pixel size shows nothing.
+    return pixels > 0 ? static_cast<Long>(std::min(pixels, kMostPixels)) : 0;
 }
 
 /// Takes the next value off a script, or gives the one that stands for "cancelled".

@@ -1,5 +1,7 @@
 #include "platform/memory/MemorySite.h"
 
+#include "platform/memory/MemoryProcess.h"
+
 #include <gtest/gtest.h>
 
 namespace zorvane {
@@ -26,6 +28,12 @@ TEST(MemorySite, KeepsItsOverlayAsLargeAsTheControl) {
     EXPECT_EQ(site.overlay.Width(), 200);
     EXPECT_EQ(site.overlay.Height(), 8192);
     EXPECT_EQ(site.Width(), 3000);
+
+    MemoryProcess process;
+    const InstalledProcess installed(process);
+    process.screen.twipsPerPixelX = 0;
+    site.Resize(0, 3000);
+    EXPECT_EQ(site.overlay.Width(), 0) << "no pixels on a screen without a pixel size";
 }
 
 } // namespace
