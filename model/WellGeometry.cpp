@@ -38,7 +38,7 @@ String TurnedLabel(std::string_view columnLabel, Integer rows) {
     if (IsNumber(columnLabel))
         return GeneralText((Checked(rows) + 1).Value() - LeadingNumber(columnLabel));
     const CharacterAt first = LabelCharacter(columnLabel);
-    return LabelText(Checked(rows) - Checked(first.code) + 2 * 'A' - 1, first);
+    return LabelText(Checked(rows) - Checked(first.code) + 'A' + 'A' - 1, first);
 }
 
 } // namespace

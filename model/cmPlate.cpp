@@ -155,10 +155,11 @@ void cmPlate::CompoundWell(const std::shared_ptr<zorvane::CompoundWell>& value) 
 }
 
 void cmPlate::SetProperty(std::string_view name, std::string_view value, Integer position) {
-    if (TStringPair* const pair = Properties.Find(name))
+    if (TStringPair* const pair = Properties.Find(name)) {
         pair->Value(value);
-    else
+    } else {
         Properties.Add(std::make_shared<TStringPair>(String(name), String(value)), position);
+    }
 }
 
 String cmPlate::GetProperty(std::string_view name) const {

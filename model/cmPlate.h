@@ -188,13 +188,13 @@ class cmPlate {
     /// that begins the next one. The result is 0 for a plate (of this name, when one is given), 1
     /// for a plate of another name, -1 for an INCLUDE line outside a plate, 6 for any other stray
     /// line, 7 for a line that failed, or the error number of a failure to read the file.
-    Integer ReadNextPlate(TextFile& file, const String& name = {});
+    Integer ReadNextPlate(TextFile& file, String name = {});
     /// Loads one definition from text with CR LF line ends; stops at the first unknown keyword.
     /// What the text does not mention keeps its value.
     void SetFromText(String text);
     /// Finds a plate by name, apart from letter case, in a library file and loads it. Shows a
     /// message and answers false when it cannot; this object then holds the last plate read.
-    Boolean SetPlate(const String& fileName, const String& plateName);
+    Boolean SetPlate(const String& fileName, String plateName);
 
     /// The definition written from the recorded properties, as it was read.
     String Text() const;

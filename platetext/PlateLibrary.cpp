@@ -20,7 +20,9 @@ bool ReadUntilFound(cmPlate& plate, TextFile& file, const String& plateName) {
 
 } // namespace
 
-Boolean cmPlate::SetPlate(const String& fileName, const String& plateName) {
+// By value: the name may be this object's own, which reading overwrites.
+Boolean cmPlate::SetPlate(const String& fileName,
+                          String plateName) { // NOLINT(performance-unnecessary-value-param)
     if (plateName.empty() || fileName.empty()) return false;
     String failure = "Can't find Plate <" + plateName + "> in " + fileName;
     try {

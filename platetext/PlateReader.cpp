@@ -40,7 +40,9 @@ Long cmPlate::ParsePlateLine(std::string_view line) {
     }
 }
 
-Integer cmPlate::ReadNextPlate(TextFile& file, const String& name) {
+// By value: the name may be this object's own, which reading overwrites.
+Integer cmPlate::ReadNextPlate(TextFile& file,
+                               String name) { // NOLINT(performance-unnecessary-value-param)
     try {
         const Integer result = ReadPlate(file);
         const bool otherName = !name.empty() && !EqualNoCase(name, plateName_);

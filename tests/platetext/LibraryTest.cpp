@@ -47,6 +47,14 @@ TEST(PlateLibrary, FindsAPlateOrSaysThatItCannot) {
     }
 }
 
+TEST(PlateLibrary, FindsThePlateOfItsOwnName) {
+    const TempFile library("PLATE A\nROWS 1\nPLATE B\nROWS 2");
+    cmPlate plate;
+    plate.PlateName("B");
+    EXPECT_TRUE(plate.SetPlate(library.Path(), plate.PlateName()));
+    EXPECT_EQ(plate.Rows(), 2);
+}
+
 TEST(PlateLibrary, SaysThatItCannotRead) {
     TestProcess process;
     const String directory = testing::TempDir();
