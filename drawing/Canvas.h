@@ -57,6 +57,9 @@ class Canvas {
     virtual Single TextWidth(std::string_view text, Boolean bold) const = 0;
     /// A dotted one-pixel outline that inverts what lies under it.
     virtual void DrawInvertedOutline(const Rect& box) = 0;
+    /// Until the matching EndClip nothing is painted outside of the box.
+    virtual void BeginClip(const Rect& box) = 0;
+    virtual void EndClip() = 0;
     /// Names what is painted until the matching EndGroup, for canvases that keep a structure.
     virtual void BeginGroup(std::string_view /*name*/) {}
     virtual void EndGroup() {}

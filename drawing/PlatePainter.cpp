@@ -37,6 +37,8 @@ class Painter {
         const Frame& plate = surface_.fraPlate;
         if (!plate.visible) return;
         PaintFrame(plate, "plate");
+        // A container shows nothing of its contents outside of itself.
+        canvas_.BeginClip(plate.box);
         PaintContents(plate.box.left, plate.box.top);
         if (surface_.SelectBox.visible) {
             canvas_.BeginGroup("selection");
@@ -44,6 +46,7 @@ class Painter {
                 surface_.SelectBox.box.Moved(plate.box.left, plate.box.top));
             canvas_.EndGroup();
         }
+        canvas_.EndClip();
     }
 
     /// Wells and legends, whose place is relative to the plate area's corner at `x`, `y`.

@@ -87,7 +87,7 @@ SvgCanvas::SvgCanvas(const SvgPage& page) : area_(page.area) {
     Attribute("xml:space", "preserve");
     svg_ += ">\n <title>" + Escaped(page.title) + "</title>\n";
     if (!page.description.empty()) svg_ += " <desc>" + Escaped(page.description) + "</desc>\n";
-    groups_.push_back({{}, {"#000000", "none"}, true});
+    groups_.push_back({{}, {"#000000", "none"}, true, {}});
 }
 
 Single SvgCanvas::Snapped(Single position) const { return std::round(position / grid_) * grid_; }
@@ -170,7 +170,18 @@ void SvgCanvas::DrawInvertedOutline(const Rect& box) {
     svg_ += "/>\n";
 }
 
-void SvgCanvas::BeginGroup(std::string_view name) { groups_.push_back({String(name), {}, false}); }
+// A clip path is defined outside of the groups that have not begun yet, so they may stay unwritten.
+void SvgCanvas::BeginClip(const Rect& box) {
+    const String id = "clip" + std::to_string(++clips_);
+    svg_.append(groups_.size(), ' ') += "<clipPath id=\"" + id + "\"><rect";
+    BoxAttributes(WithSnappedEdges(box));
+    svg_ += "/></clipPath>\n";
+    groups_.push_back({{}, {}, false, id});
+}
+
+void SvgCanvas::BeginGroup(std::string_view name) {
+    groups_.push_back({String(name), {}, false, {}});
+}
 
 void SvgCanvas::EndGroup() {
     const bool begun = groups_.back().begun;
@@ -193,6 +204,7 @@ void SvgCanvas::BeginGroups(const Paint& paint) {
         const Paint& inherited = groups_[depth - 1].paint;
         StartTag("g", depth);
         if (!group.name.empty()) Attribute("id", group.name);
+        if (!group.clipPath.empty()) Attribute("clip-path", "url(#" + group.clipPath + ")");
         group.paint = depth + 1 == groups_.size() ? paint : inherited;
         Differences(group.paint, inherited);
         group.begun = true;

@@ -36,6 +36,8 @@ class SvgCanvas final : public Canvas {
     void DrawText(const TextStyle& style, const Rect& box, std::string_view text) override;
     Single TextWidth(std::string_view text, Boolean bold) const override;
     void DrawInvertedOutline(const Rect& box) override;
+    void BeginClip(const Rect& box) override;
+    void EndClip() override { EndGroup(); }
     /// The name is an id: used once a picture, without blanks. An empty one gives no id.
     void BeginGroup(std::string_view name) override;
     void EndGroup() override;
@@ -49,6 +51,7 @@ class SvgCanvas final : public Canvas {
         String name;
         Paint paint; ///< what its elements inherit
         bool begun = false;
+        String clipPath; ///< id of the clip path, for groups that clip
     };
 
     Single Snapped(Single position) const;
@@ -70,6 +73,7 @@ class SvgCanvas final : public Canvas {
     /// or wells that stand close would run into each other there.
     Single grid_ = 0;
     String svg_;
+    int clips_ = 0;
     std::vector<Group> groups_; ///< the picture itself, then the groups not ended yet
 };
 

@@ -121,4 +121,11 @@ void QtCanvas::DrawInvertedOutline(const Rect& box) {
     painter_.restore();
 }
 
+void QtCanvas::BeginClip(const Rect& box) {
+    painter_.save();
+    painter_.setClipRect(DevicePixels(box), Qt::IntersectClip);
+}
+
+void QtCanvas::EndClip() { painter_.restore(); }
+
 } // namespace zorvane

@@ -33,6 +33,8 @@ class QtCanvas final : public Canvas {
     void DrawText(const TextStyle& style, const Rect& box, std::string_view text) override;
     Single TextWidth(std::string_view text, Boolean bold) const override;
     void DrawInvertedOutline(const Rect& box) override;
+    void BeginClip(const Rect& box) override;
+    void EndClip() override;
 
     /// The device pixels that an area covers, both edges rounded. For painting beside the canvas:
     /// the painter's unit is the device pixel while the canvas lives.

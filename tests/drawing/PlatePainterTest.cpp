@@ -162,6 +162,8 @@ TEST(PlatePainterTest, AllocatesNothingForWells) {
         void DrawText(const TextStyle&, const Rect&, std::string_view) override {}
         Single TextWidth(std::string_view, Boolean) const override { return 0; }
         void DrawInvertedOutline(const Rect&) override {}
+        void BeginClip(const Rect&) override {}
+        void EndClip() override {}
 
         int shapes = 0;
     };

@@ -45,6 +45,8 @@ class RecordingCanvas final : public Canvas {
         return static_cast<Single>(text.size()) * 100;
     }
     void DrawInvertedOutline(const Rect& box) override { Record("inverted", kWhite, box); }
+    void BeginClip(const Rect&) override {}
+    void EndClip() override {}
 
     std::vector<String> painted;
 
