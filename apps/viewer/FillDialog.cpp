@@ -65,8 +65,8 @@ FillDialog::FillDialog(PlateSession& session, QWidget* parent)
     AddFillFields(*form);
     AddRangeFields(*form);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-    buttons->addButton(tr("&Fill"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    buttons->button(QDialogButtonBox::Ok)->setText(tr("&Fill"));
     connect(buttons, &QDialogButtonBox::accepted, this, &FillDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &FillDialog::reject);
 
