@@ -241,6 +241,8 @@ class Plate : private PlateState {
 
     void AddObserver(PlateObserver& observer) { events_.Add(observer); }
     void RemoveObserver(PlateObserver& observer) noexcept { events_.Remove(observer); }
+    /// The plate definition, empty after a failed load; error 91 before the first load.
+    const cmPlate& LoadedDefinition() const { return Definition(); }
     /// What is shown, to paint or to mirror.
     const Surface& Elements() const { return surface_; }
     /// The window has been repainted: puts a visible rubber band back.

@@ -3,6 +3,7 @@
 #include "hosts/qt/PlateSignals.h"
 #include "hosts/qt/QtPalette.h"
 #include "hosts/qt/QtProcess.h"
+#include "hosts/qt/SelectionAids.h"
 #include "hosts/qt/Units.h"
 #include "platform/Process.h"
 #include "runtime/RuntimeError.h"
@@ -40,6 +41,7 @@ PlateWidget::PlateWidget(QWidget* parent)
     plate_ = std::make_unique<Plate>(site_);
     signals_ = std::make_unique<PlateSignals>(*this);
     plate_->AddObserver(*signals_);
+    selection_ = std::make_unique<SelectionAids>(*plate_);
     site_.onRepaint = [this](const Rect& area) { ContentChanged(area); };
     site_.onResize = [this](QSize size) { TakeSize(size); };
     site_.Overlay().Context().onChange = [this](const Rect& pixels) { OutlineChanged(pixels); };

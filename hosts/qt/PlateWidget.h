@@ -15,6 +15,8 @@
 namespace zorvane {
 
 class PlateSignals;
+class QtCanvas;
+class SelectionAids;
 
 /// Shows one plate. The control itself is plate(); this widget paints it, hands it the operator's
 /// input and emits its events. A failure in answer to an event or to a property is emitted as
@@ -40,10 +42,33 @@ class PlateWidget : public QWidget {
     Q_PROPERTY(bool multipleSelect READ multipleSelect WRITE setMultipleSelect)
     Q_PROPERTY(bool dragDrop READ dragDrop WRITE setDragDrop)
     Q_PROPERTY(bool mouseEnabled READ mouseEnabled WRITE setMouseEnabled)
+    Q_PROPERTY(Aids aids READ aids WRITE setAids)
     // Restored last, so that the plate is loaded with the other settings in force.
     Q_PROPERTY(QString plateName READ plateName WRITE setPlateName)
 
   public:
+    /// What the widget adds to the control's own gestures and looks. The control raises no event
+    /// for a selection that an aid makes; selectionAided() is emitted for it.
+    enum class Aid {
+        /// Shift and a press or an arrow key select the block from the well that was current
+        /// before.
+        /// With Ctrl, the other wells stay selected. Needs multipleSelect, as the next two.
+        ShiftExtendsSelection = 0x01,
+        CtrlASelectsAll = 0x02,
+        /// A press on the legend of a row or column selects it in the current sub-well.
+        LegendClickSelects = 0x04,
+        EscapeClearsSelection = 0x08,
+        /// The legends of the row and column under the pointer light up.
+        HighlightLegends = 0x10,
+        /// The tooltip names position, sub-well, volume, text and error.
+        RichToolTips = 0x20,
+        /// A defined well with an error code shows an exclamation mark.
+        ErrorMarks = 0x40,
+    };
+    Q_ENUM(Aid)
+    Q_DECLARE_FLAGS(Aids, Aid)
+    Q_FLAG(Aids)
+
     explicit PlateWidget(QWidget* parent = nullptr);
     ~PlateWidget() override;
 
@@ -97,6 +122,11 @@ class PlateWidget : public QWidget {
     bool mouseEnabled() const { return plate_->MouseEnabled(); }
     void setMouseEnabled(bool on) { plate_->MouseEnabled(on); }
 
+    /// None at first.
+    Aids aids() const { return aids_; }
+    void setAids(Aids aids);
+    void setAid(Aid aid, bool on = true) { setAids(Aids(aids_).setFlag(aid, on)); }
+
     /// The size that the control last asked for.
     QSize sizeHint() const override { return askedSize_; }
 
@@ -111,6 +141,9 @@ class PlateWidget : public QWidget {
     void mouseReleased(int button, int shift, float x, float y);
     void dragMoved(int button, int shift, int columns, int rows);
     void changesApplied();
+
+    /// An aid has changed which wells are selected.
+    void selectionAided();
 
     /// The operator's input or a property failed.
     void failed(int number, const QString& source, const QString& description);
@@ -132,7 +165,7 @@ class PlateWidget : public QWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    enum class Part { None, PlateArea, Panel, Background };
+    enum class Part { None, PlateArea, Panel, Background, Aid };
     /// A place in the plate area, in drawing units.
     struct Spot {
         Single x;
@@ -152,11 +185,19 @@ class PlateWidget : public QWidget {
     void Relayout();
     void Refit();
     void PaintPlate(QPainter& painter, const QRectF& clip);
+    void PaintHints(QtCanvas& canvas);
     void PaintFocusRing(QPainter& painter);
 
     Part PartAt(QPointF position) const;
     Spot InPlate(QPointF position) const;
+    bool IsWell(Integer number) const { return number >= 0 && number < plate_->TotalWells(); }
     void Press(const QMouseEvent& event);
+    bool AnswerPress(const QMouseEvent& event);
+    bool AnswerKey(const QKeyEvent& event);
+    void AnswerMove(Integer from, Qt::KeyboardModifiers modifiers);
+    void Select(const std::function<void()>& selection);
+    void HoverOver(Integer wellNo);
+    QString ToolTipText() const;
     void Release(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPointF position);
     void ShowPointer(bool overPlate);
     void ShowRing(bool on);
@@ -165,6 +206,9 @@ class PlateWidget : public QWidget {
     QtSite site_;
     std::unique_ptr<Plate> plate_;
     std::unique_ptr<PlateSignals> signals_;
+    std::unique_ptr<SelectionAids> selection_;
+    Aids aids_;
+    Integer hovered_ = -1;
     ShapeImages images_;
     QSize askedSize_;
     Part pressed_ = Part::None; // where the button went down that is still held
@@ -174,5 +218,7 @@ class PlateWidget : public QWidget {
     bool refitting_ = false;
     bool ringShown_ = false;
 };
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(PlateWidget::Aids)
 
 } // namespace zorvane

@@ -66,6 +66,8 @@ Integer KeyCode(int key) {
     }
 }
 
+bool IsArrow(Integer code) { return code >= kArrowLeft && code <= kArrowDown; }
+
 /// The code of the character that a key types, or 0 for none or one beyond a byte.
 Integer CharacterCode(const QString& text) {
     if (text.size() != 1 || text[0].unicode() > 0xFF) return 0;
@@ -106,6 +108,7 @@ void PlateWidget::Press(const QMouseEvent& event) {
     // While a button is held, the part that it went down on gets the others too.
     if (pressed_ == Part::None) pressed_ = PartAt(event.position());
     if (pressed_ == Part::Background) Try([this] { plate_->BackgroundPressed(); });
+    if (pressed_ == Part::PlateArea && AnswerPress(event)) pressed_ = Part::Aid;
     const Integer button = ButtonBit(event.button());
     if (pressed_ != Part::PlateArea || button == 0) return;
     FitOverlay();
@@ -123,6 +126,7 @@ void PlateWidget::mouseMoveEvent(QMouseEvent* event) {
             const Spot at = InPlate(event->position());
             plate_->PointerMove(ButtonBits(event->buttons()), ShiftBits(event->modifiers()), at.x,
                                 at.y);
+            HoverOver(overPlate ? plate_->MouseToWell(at.x, at.y) : Integer{-1});
         });
     ShowPointer(pressed_ == Part::PlateArea || overPlate);
 }
@@ -151,6 +155,7 @@ void PlateWidget::Release(Qt::MouseButton button, Qt::KeyboardModifiers modifier
 void PlateWidget::leaveEvent(QEvent* event) {
     QWidget::leaveEvent(event);
     ShowPointer(false);
+    HoverOver(-1);
 }
 
 void PlateWidget::ShowPointer(bool overPlate) {
@@ -162,15 +167,18 @@ void PlateWidget::ShowPointer(bool overPlate) {
 }
 
 void PlateWidget::keyPressEvent(QKeyEvent* event) {
+    ShowRing(true);
+    if (AnswerKey(*event)) return;
     const Integer code = KeyCode(event->key());
     const Integer character = CharacterCode(event->text());
-    ShowRing(true);
+    const Integer from = plate_->CurrentWell();
     Try([&] {
         if (code != 0) plate_->KeyDown(code, ShiftBits(event->modifiers()));
         if (character != 0) plate_->CharacterTyped(character);
     });
+    if (IsArrow(code)) AnswerMove(from, event->modifiers());
     ShowPointer(underMouse());
-    event->setAccepted(code >= kArrowLeft && code <= kArrowDown);
+    event->setAccepted(IsArrow(code));
 }
 
 void PlateWidget::keyReleaseEvent(QKeyEvent* event) {
@@ -199,9 +207,10 @@ bool PlateWidget::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QWidget::event(event);
     const auto& help = static_cast<const QHelpEvent&>(*event);
     const bool over = PartAt(help.pos()) == Part::PlateArea;
+    QString text = over ? ToolTipText() : QString();
     // Hosts' texts are shown as they are, also where they look like markup.
-    QString text = over ? site_.ToolTip() : QString();
-    if (Qt::mightBeRichText(text)) text = text.toHtmlEscaped();
+    if (Qt::mightBeRichText(text))
+        text = text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
     QToolTip::showText(help.globalPos(), text, this);
     return true;
 }

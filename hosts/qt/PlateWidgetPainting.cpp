@@ -60,6 +60,7 @@ void PlateWidget::PaintPlate(QPainter& painter, const QRectF& clip) {
     const Surface& surface = plate_->Elements();
     QtCanvas canvas(painter, images_, font(), clip);
     PaintControl(surface, SystemColors(palette()), canvas);
+    PaintHints(canvas);
     if (surface.fraPlate.visible)
         site_.Overlay().Paint(painter, canvas.DevicePixels(surface.fraPlate.box),
                               canvas.DevicePixels(canvas.Clip()));

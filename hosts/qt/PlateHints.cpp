@@ -1,0 +1,103 @@
+#include "hosts/qt/PlateHints.h"
+
+#include "drawing/Palette.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QStringList>
+
+#include <array>
+
+namespace zorvane {
+
+namespace {
+
+struct Hints {
+    Q_DECLARE_TR_FUNCTIONS(PlateWidget)
+};
+
+bool IsWell(const Plate& plate, Integer wellNo) {
+    return wellNo >= 0 && wellNo < plate.TotalWells();
+}
+
+Rect InControl(const Plate& plate, const Rect& box) {
+    const Rect& area = plate.Elements().fraPlate.box;
+    return box.Moved(area.left, area.top);
+}
+
+std::array<const Label*, 2> LegendsOf(const Plate& plate, Integer wellNo) {
+    return {&RowLegend(plate, static_cast<Integer>(wellNo / plate.Cols % plate.Rows)),
+            &ColumnLegend(plate, static_cast<Integer>(wellNo % plate.Cols))};
+}
+
+/// Wide enough for the caption; the box itself has room for two characters.
+Rect LitBox(const Plate& plate, const Label& legend) {
+    constexpr Single kRoom = 75;
+    const Rect box = InControl(plate, legend.box);
+    return {box.left - kRoom, box.top, box.width + 2 * kRoom, box.height};
+}
+
+/// A bar and a dot in the middle of a box.
+void DrawExclamationMark(Canvas& canvas, Rgb color, const Rect& box) {
+    const Single width = box.height / 7;
+    const Single left = box.left + (box.width - width) / 2;
+    canvas.FillRectangle(color, {left, box.top + box.height / 6, width, box.height * 0.4F});
+    canvas.FillRectangle(color, {left, box.top + box.height * 0.7F, width, width});
+}
+
+void MarkError(const Surface& surface, std::size_t well, Single x, Single y, Canvas& canvas) {
+    const Shape& bottom = surface.WellBottom[well];
+    Rect box = CentredSquare(bottom.box).Moved(x, y);
+    const Label& text = surface.WellText[well];
+    // Beside a caption the mark takes the upper right corner.
+    if (text.visible && !text.caption.empty())
+        box = {box.left + box.width * 0.65F, box.top, box.width / 3, box.height / 3};
+    const Rgb fill = Resolve(bottom.fill, SystemPalette());
+    DrawExclamationMark(canvas, ReadableOn(fill, kBlack), box);
+}
+
+} // namespace
+
+void HighlightLegends(const Plate& plate, Integer wellNo, Rgb back, Rgb text, Canvas& canvas) {
+    if (!IsWell(plate, wellNo)) return;
+    for (const Label* legend : LegendsOf(plate, wellNo)) {
+        canvas.FillRectangle(back, LitBox(plate, *legend));
+        canvas.DrawText({.color = text, .bold = true}, InControl(plate, legend->box),
+                        legend->caption);
+    }
+}
+
+Rect HighlightedLegends(const Plate& plate, Integer wellNo) {
+    if (!IsWell(plate, wellNo)) return {};
+    const auto [row, col] = LegendsOf(plate, wellNo);
+    return Union(LitBox(plate, *row), LitBox(plate, *col));
+}
+
+void MarkErrors(const Plate& plate, Canvas& canvas) {
+    const Surface& surface = plate.Elements();
+    const Rect& area = surface.fraPlate.box;
+    const Rect clip = canvas.Clip().Moved(-area.left, -area.top);
+    for (const PaintRun& run : surface.paintOrder) {
+        if (run.kind != PaintRun::Kind::Wells) continue;
+        const auto [first, last] = surface.Touched(run, clip);
+        for (Integer i = first; i < last; ++i) {
+            const auto well = static_cast<Integer>(run.first + i);
+            if (plate.IsDefined(well) && plate.ErrorCode(well) != 0)
+                MarkError(surface, static_cast<std::size_t>(well), area.left, area.top, canvas);
+        }
+    }
+}
+
+QString DescriptionOf(const Plate& plate, Integer wellNo) {
+    if (!IsWell(plate, wellNo)) return {};
+    QStringList lines{QString::fromStdString(NameOfWell(plate, wellNo))};
+    if (const Single volume = plate.GetVolume(wellNo); volume != 0 || plate.IsDefined(wellNo))
+        lines += Hints::tr("Volume %1 µl").arg(QLocale().toString(double{volume}, 'g', 6));
+    if (const String text = plate.Text(wellNo); !text.empty())
+        lines += QString::fromStdString(text);
+    if (const Integer error = plate.ErrorCode(wellNo); error != 0)
+        lines += Hints::tr("Error %1").arg(error);
+    return lines.join('\n');
+}
+
+} // namespace zorvane

@@ -1,0 +1,49 @@
+#include "hosts/qt/PlateLegends.h"
+
+namespace zorvane {
+
+namespace {
+
+constexpr Single kReach = 45; // around a legend, so that it is easily hit
+
+bool IsHit(const Label& legend, Single x, Single y) {
+    const Rect box = legend.box.Grown(kReach);
+    return legend.visible && box.left <= x && x < box.Right() && box.top <= y && y < box.Bottom();
+}
+
+const Label& LabelNumber(const Plate& plate, int number) {
+    return plate.Elements().lblWell[static_cast<std::size_t>(number)];
+}
+
+} // namespace
+
+// The column legends stand between the row legends of the last two rows.
+
+const Label& RowLegend(const Plate& plate, Integer row) {
+    return LabelNumber(plate, row < plate.Rows - 1 ? row + 1 : plate.Rows + plate.Cols);
+}
+
+const Label& ColumnLegend(const Plate& plate, Integer col) {
+    return LabelNumber(plate, plate.Rows + col);
+}
+
+std::optional<GridLine> LegendAt(const Plate& plate, Single x, Single y) {
+    if (plate.TotalWells() < 1) return std::nullopt;
+    for (Integer row = 0; row < plate.Rows; ++row)
+        if (IsHit(RowLegend(plate, row), x, y)) return GridLine{true, row};
+    for (Integer col = 0; col < plate.Cols; ++col)
+        if (IsHit(ColumnLegend(plate, col), x, y)) return GridLine{false, col};
+    return std::nullopt;
+}
+
+String NameOfWell(const Plate& plate, Integer wellNo) {
+    const auto row = static_cast<Integer>(wellNo / plate.Cols % plate.Rows);
+    const auto col = static_cast<Integer>(wellNo % plate.Cols);
+    const String position = RowLegend(plate, row).caption + ColumnLegend(plate, col).caption;
+    const auto subWells = plate.LoadedDefinition().CompoundWell();
+    const Long subWell = wellNo / plate.Cols / plate.Rows + 1;
+    if (subWells->Count() < 2 || subWell > subWells->Count()) return position;
+    return position + ", " + subWells->Item(subWell)->WellName();
+}
+
+} // namespace zorvane
