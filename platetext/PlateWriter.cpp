@@ -47,10 +47,11 @@ String cmPlate::Text() const {
     for (const auto& pair : Properties) {
         const std::string_view name = pair->Name();
         const std::size_t dot = name.find('.');
-        if (dot == name.npos)
+        if (dot == name.npos) {
             AppendLine(text, kIndent, UpperText(name), pair->Value());
-        else
+        } else {
             AppendSubWellProperty(subWells, name.substr(dot + 1), pair->Value());
+        }
     }
     return text + subWells;
 }

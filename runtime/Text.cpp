@@ -108,10 +108,11 @@ String PrintableUtf8(std::string_view text) {
         const bool control = (character.code < 0x20 && !lineBreakOrTab) ||
                              (character.code >= 0x7F && character.code < 0xA0) ||
                              character.code == 0xFFFE || character.code == 0xFFFF;
-        if (character.valid && !control)
+        if (character.valid && !control) {
             result += text.substr(0, character.bytes);
-        else
+        } else {
             result += "\xEF\xBF\xBD";
+        }
         text.remove_prefix(character.bytes);
     }
     return result;

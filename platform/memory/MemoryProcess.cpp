@@ -4,10 +4,11 @@ namespace zorvane {
 
 void MemoryMessages::Show(const Message& message) {
     shown.push_back(message);
-    if (!expected_.empty() && expected_.front() == message.prompt)
+    if (!expected_.empty() && expected_.front() == message.prompt) {
         expected_.erase(expected_.begin());
-    else if (onUnexpected)
+    } else if (onUnexpected) {
         onUnexpected(message);
+    }
 }
 
 } // namespace zorvane

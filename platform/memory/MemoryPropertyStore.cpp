@@ -15,10 +15,11 @@ void MemoryPropertyStore::Write(const String& key, const PropertyValue& value,
                                 const PropertyValue& /*fallback*/) {
     const auto found = std::find_if(values.begin(), values.end(),
                                     [&](const auto& each) { return each.first == key; });
-    if (found == values.end())
+    if (found == values.end()) {
         values.emplace_back(key, value);
-    else
+    } else {
         found->second = value;
+    }
 }
 
 } // namespace zorvane
