@@ -49,6 +49,7 @@ class PlateSession final : public QObject {
         } catch (const RuntimeError& error) {
             emit failed(QString::fromStdString(error.Description()));
         }
+        widget_.update(); // error codes alone repaint nothing, but are marked
         emit changed();
         return done;
     }

@@ -7,8 +7,11 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMetaEnum>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace zorvane {
 
@@ -18,6 +21,7 @@ ViewSettings::ViewSettings(PlateSession& session, QWidget* parent)
     layout->setSpacing(10);
     AddSelection();
     AddLayout();
+    AddAids();
     layout->addStretch(1);
     connect(&session, &PlateSession::changed, this, &ViewSettings::Refresh);
     Refresh();
@@ -65,7 +69,7 @@ void ViewSettings::AddLayout() {
     });
     Add(group, tr("Centre horizontally"), QStringLiteral("HorizontalCentred"), true,
         [&](bool on) { widget.setHorizontalCentred(on); });
-    Add(group, tr("Centre vertically"), QStringLiteral("VerticalCentred"), true,
+    Add(group, tr("Centre vertically"), QStringLiteral("VerticalCentred"), false,
         [&](bool on) { widget.setVerticalCentred(on); });
     AddScale(group);
 }
@@ -86,6 +90,23 @@ void ViewSettings::AddScale(QVBoxLayout& group) {
     row->addWidget(label);
     row->addWidget(scale_, 1);
     group.addLayout(row);
+}
+
+void ViewSettings::AddAids() {
+    using Aid = PlateWidget::Aid;
+    const std::pair<Aid, QString> aids[] = {
+        {Aid::ShiftExtendsSelection, tr("Shift extends the selection")},
+        {Aid::CtrlASelectsAll, tr("Ctrl+A selects all wells")},
+        {Aid::EscapeClearsSelection, tr("Escape clears the selection")},
+        {Aid::LegendClickSelects, tr("Click on a legend selects its line")},
+        {Aid::HighlightLegends, tr("Light up legends under the pointer")},
+        {Aid::RichToolTips, tr("Tooltips with all data")},
+        {Aid::ErrorMarks, tr("Mark wells with errors")},
+    };
+    QVBoxLayout& group = *AddGroup(tr("Aids"));
+    for (const auto& [aid, text] : aids)
+        Add(group, text, QString::fromLatin1(QMetaEnum::fromType<Aid>().valueToKey(int(aid))), true,
+            [this, aid = aid](bool on) { session_.Widget().setAid(aid, on); });
 }
 
 void ViewSettings::Refresh() {

@@ -29,6 +29,7 @@ class ViewSettings final : public QWidget {
                    std::function<void(bool)> apply);
     void AddSelection();
     void AddLayout();
+    void AddAids();
     void AddScale(QVBoxLayout& group);
     void Refresh();
 

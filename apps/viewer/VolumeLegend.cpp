@@ -48,7 +48,7 @@ void SetColor(QLabel& swatch, Long color) {
 }
 
 QString VolumeText(Single volume) {
-    return QString::fromStdString(SingleText(volume)) + QObject::tr(" µL");
+    return QString::fromStdString(SingleText(volume)) + QObject::tr(" µl");
 }
 
 } // namespace
@@ -68,7 +68,7 @@ VolumeLegend::VolumeLegend(PlateSession& session, QWidget* parent)
     layout->addStretch(1);
     layout->addWidget(scale_);
     layout->addWidget(zero);
-    layout->addWidget(new QLabel(tr("0 µL")));
+    layout->addWidget(new QLabel(tr("0 µl")));
     layout->addSpacing(12);
     layout->addWidget(missing_);
     layout->addWidget(new QLabel(tr("no volume")));

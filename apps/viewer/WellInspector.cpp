@@ -81,7 +81,7 @@ void WellInspector::AddDataFields(QFormLayout& form) {
     form.addRow(tr("&Volume"), volume_ = new QDoubleSpinBox);
     volume_->setRange(-kMostVolume, kMostVolume);
     volume_->setDecimals(3);
-    volume_->setSuffix(tr(" µL"));
+    volume_->setSuffix(tr(" µl"));
     volume_->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
     volume_->setKeyboardTracking(false);
     form.addRow(tr("&Text"), text_ = new QLineEdit);
