@@ -6,11 +6,14 @@
 #include <QLocale>
 #include <QStringList>
 
+#include <algorithm>
 #include <array>
 
 namespace zorvane {
 
 namespace {
+
+constexpr Single kLeastBadge = 165;
 
 struct Hints {
     Q_DECLARE_TR_FUNCTIONS(PlateWidget)
@@ -47,12 +50,16 @@ void DrawExclamationMark(Canvas& canvas, Rgb color, const Rect& box) {
 
 void MarkError(const Surface& surface, std::size_t well, Single x, Single y, Canvas& canvas) {
     const Shape& bottom = surface.WellBottom[well];
+    const Rgb fill = Resolve(bottom.fill, SystemPalette());
     Rect box = CentredSquare(bottom.box).Moved(x, y);
     const Label& text = surface.WellText[well];
-    // Beside a caption the mark takes the upper right corner.
-    if (text.visible && !text.caption.empty())
-        box = {box.left + box.width * 0.65F, box.top, box.width / 3, box.height / 3};
-    const Rgb fill = Resolve(bottom.fill, SystemPalette());
+    // Beside a caption the mark stands on a badge at the rim's upper right.
+    if (text.visible && !text.caption.empty()) {
+        const Rect rim = surface.WellRim[well].box.Moved(x, y);
+        const Single side = std::min(std::max(kLeastBadge, rim.height / 4), rim.height);
+        box = {rim.Right() - side, rim.top, side, side};
+        canvas.DrawShape({ShapeKind::Circle, fill, true}, box);
+    }
     DrawExclamationMark(canvas, ReadableOn(fill, kBlack), box);
 }
 

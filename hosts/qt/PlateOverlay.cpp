@@ -36,11 +36,12 @@ void PlateOverlay::Paint(QPainter& painter, const QRect& area, const QRect& clip
     painter.save();
     // The difference from white is the inverse; from nothing, the pixel itself.
     painter.setCompositionMode(QPainter::CompositionMode_Difference);
-    if (sameScale)
+    if (sameScale) {
         painter.drawImage(area.topLeft() + part.topLeft(),
                           bits.copy(part).convertToFormat(QImage::Format_ARGB32_Premultiplied));
-    else
+    } else {
         painter.drawImage(area, bits.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+    }
     painter.restore();
 }
 

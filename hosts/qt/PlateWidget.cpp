@@ -1,5 +1,6 @@
 #include "hosts/qt/PlateWidget.h"
 
+#include "hosts/qt/PlateAccessible.h"
 #include "hosts/qt/PlateSignals.h"
 #include "hosts/qt/QtPalette.h"
 #include "hosts/qt/QtProcess.h"
@@ -38,6 +39,7 @@ bool IsLaidOut(const QWidget& widget) {
 PlateWidget::PlateWidget(QWidget* parent)
     : QWidget(parent), site_(*this, dataButton_), askedSize_(kNewSize) {
     QtProcess::UseByDefault();
+    PlateAccessible::Install();
     plate_ = std::make_unique<Plate>(site_);
     signals_ = std::make_unique<PlateSignals>(*this);
     plate_->AddObserver(*signals_);
@@ -137,13 +139,15 @@ void PlateWidget::Try(const std::function<void()>& action) {
         // Thrown by a slot of the host: an event loop can't hand it on either.
         Report(0, QString(), QString::fromLocal8Bit(error.what()));
     }
+    AnnounceCurrentWell();
 }
 
 void PlateWidget::Report(int number, const QString& source, const QString& description) {
-    if (isSignalConnected(QMetaMethod::fromSignal(&PlateWidget::failed)))
+    if (isSignalConnected(QMetaMethod::fromSignal(&PlateWidget::failed))) {
         emit failed(number, source, description);
-    else
+    } else {
         CurrentProcess().Messages().Show({description.toStdString()});
+    }
 }
 
 void PlateWidget::Relayout() {

@@ -127,6 +127,9 @@ class PlateWidget : public QWidget {
     void setAids(Aids aids);
     void setAid(Aid aid, bool on = true) { setAids(Aids(aids_).setFlag(aid, on)); }
 
+    /// The well shown at a place of the widget, or -1.
+    int wellAt(QPointF position) const;
+
     /// The size that the control last asked for.
     QSize sizeHint() const override { return askedSize_; }
 
@@ -197,6 +200,7 @@ class PlateWidget : public QWidget {
     void AnswerMove(Integer from, Qt::KeyboardModifiers modifiers);
     void Select(const std::function<void()>& selection);
     void HoverOver(Integer wellNo);
+    void AnnounceCurrentWell();
     QString ToolTipText() const;
     void Release(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPointF position);
     void ShowPointer(bool overPlate);
@@ -209,6 +213,7 @@ class PlateWidget : public QWidget {
     std::unique_ptr<SelectionAids> selection_;
     Aids aids_;
     Integer hovered_ = -1;
+    Integer announced_ = -1;
     ShapeImages images_;
     QSize askedSize_;
     Part pressed_ = Part::None; // where the button went down that is still held

@@ -84,17 +84,19 @@ void PlateWidget::AnswerMove(Integer from, Qt::KeyboardModifiers modifiers) {
 
 void PlateWidget::HoverOver(Integer wellNo) {
     if (wellNo == hovered_) return;
-    for (const Integer well : {std::exchange(hovered_, wellNo), wellNo})
+    for (const Integer well : {std::exchange(hovered_, wellNo), wellNo}) {
         if (aids_.testFlag(Aid::HighlightLegends))
             update(ToPixels(HighlightedLegends(*plate_, well)).toAlignedRect());
+    }
 }
 
 void PlateWidget::PaintHints(QtCanvas& canvas) {
     const SystemPalette colors = SystemColors(palette());
     if (aids_.testFlag(Aid::ErrorMarks)) MarkErrors(*plate_, canvas);
-    if (aids_.testFlag(Aid::HighlightLegends))
+    if (aids_.testFlag(Aid::HighlightLegends)) {
         HighlightLegends(*plate_, hovered_, Resolve(kHighlight, colors),
                          Resolve(kHighlightText, colors), canvas);
+    }
 }
 
 QString PlateWidget::ToolTipText() const {

@@ -1,6 +1,7 @@
 #include "hosts/qt/PlateWidget.h"
 #include "hosts/qt/Units.h"
 
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -90,6 +91,21 @@ PlateWidget::Spot PlateWidget::InPlate(QPointF position) const {
     return {ToUnits(position.x()) - area.left, ToUnits(position.y()) - area.top};
 }
 
+int PlateWidget::wellAt(QPointF position) const {
+    if (PartAt(position) != Part::PlateArea) return -1;
+    const Spot at = InPlate(position);
+    return plate_->MouseToWell(at.x, at.y);
+}
+
+void PlateWidget::AnnounceCurrentWell() {
+    if (announced_ == plate_->CurrentWell()) return;
+    announced_ = plate_->CurrentWell();
+    if (!hasFocus() || !IsWell(announced_)) return;
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild(announced_);
+    QAccessible::updateAccessibility(&event);
+}
+
 void PlateWidget::mousePressEvent(QMouseEvent* event) {
     secondClick_ = false;
     Press(*event);
@@ -121,13 +137,14 @@ void PlateWidget::mouseMoveEvent(QMouseEvent* event) {
     if (pressed_ != Part::None && event->buttons() == Qt::NoButton)
         Release(Qt::LeftButton, event->modifiers(), event->position());
     const bool overPlate = PartAt(event->position()) == Part::PlateArea;
-    if (pressed_ == Part::PlateArea || (pressed_ == Part::None && overPlate))
+    if (pressed_ == Part::PlateArea || (pressed_ == Part::None && overPlate)) {
         Try([&] {
             const Spot at = InPlate(event->position());
             plate_->PointerMove(ButtonBits(event->buttons()), ShiftBits(event->modifiers()), at.x,
                                 at.y);
             HoverOver(overPlate ? plate_->MouseToWell(at.x, at.y) : Integer{-1});
         });
+    }
     ShowPointer(pressed_ == Part::PlateArea || overPlate);
 }
 
@@ -160,10 +177,11 @@ void PlateWidget::leaveEvent(QEvent* event) {
 
 void PlateWidget::ShowPointer(bool overPlate) {
     const PointerShape shape = overPlate ? site_.Pointer() : PointerShape::Standard;
-    if (shape == PointerShape::Standard)
+    if (shape == PointerShape::Standard) {
         unsetCursor();
-    else
+    } else {
         setCursor(shape == PointerShape::MoveArrows ? Qt::SizeAllCursor : Qt::DragCopyCursor);
+    }
 }
 
 void PlateWidget::keyPressEvent(QKeyEvent* event) {

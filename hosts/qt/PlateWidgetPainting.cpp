@@ -61,9 +61,10 @@ void PlateWidget::PaintPlate(QPainter& painter, const QRectF& clip) {
     QtCanvas canvas(painter, images_, font(), clip);
     PaintControl(surface, SystemColors(palette()), canvas);
     PaintHints(canvas);
-    if (surface.fraPlate.visible)
+    if (surface.fraPlate.visible) {
         site_.Overlay().Paint(painter, canvas.DevicePixels(surface.fraPlate.box),
                               canvas.DevicePixels(canvas.Clip()));
+    }
 }
 
 void PlateWidget::PaintFocusRing(QPainter& painter) {

@@ -33,12 +33,14 @@ QList<QPoint> DottedEdge(const QRect& box) {
         pass(x, box.top());
     for (int y = box.top() + 1; y <= box.bottom(); ++y)
         pass(box.right(), y);
-    if (box.height() > 1)
+    if (box.height() > 1) {
         for (int x = box.right() - 1; x >= box.left(); --x)
             pass(x, box.bottom());
-    if (box.width() > 1)
+    }
+    if (box.width() > 1) {
         for (int y = box.bottom() - 1; y > box.top(); --y)
             pass(box.left(), y);
+    }
     return dots;
 }
 
@@ -78,10 +80,11 @@ void QtCanvas::DrawShape(const ShapeStyle& style, const Rect& box) {
     // The size is rounded by itself: equal wells stay equal and share one image.
     const QPoint corner(qRound(double{box.left} * scaleX_), qRound(double{box.top} * scaleY_));
     const QSize size(qRound(double{box.width} * scaleX_), qRound(double{box.height} * scaleY_));
-    if (const QImage* image = images_.Find(style, size))
+    if (const QImage* image = images_.Find(style, size)) {
         painter_.drawImage(corner, *image);
-    else if (!size.isEmpty())
+    } else if (!size.isEmpty()) {
         PaintShape(painter_, style, QRect(corner, size));
+    }
 }
 
 void QtCanvas::FillRectangle(Rgb color, const Rect& box) {

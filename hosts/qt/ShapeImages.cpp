@@ -27,10 +27,11 @@ void PaintCurved(QPainter& painter, const ShapeStyle& style, const QRectF& exten
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(style.outlined ? QPen(Qt::black, 1) : QPen(Qt::NoPen));
     painter.setBrush(ToColor(style.fill));
-    if (style.kind == ShapeKind::Rounded)
+    if (style.kind == ShapeKind::Rounded) {
         painter.drawRoundedRect(path, extent.width() / 8, extent.height() / 8);
-    else
+    } else {
         painter.drawEllipse(path);
+    }
     painter.restore();
 }
 
