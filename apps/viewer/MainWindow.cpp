@@ -29,7 +29,8 @@ constexpr QRgb kSelected = 0x2F6FDE;
 constexpr QRgb kDefined = 0x8CCB9B;
 constexpr QRgb kError = 0xF0938A;
 
-constexpr QSize kFirstSize(1240, 780);
+constexpr int kMessageTime = 10000; // ms
+constexpr QSize kFirstSize(1280, 780);
 
 QDockWidget* MakeDock(QMainWindow& window, const QString& title, QWidget* content,
                       Qt::DockWidgetArea area) {
@@ -79,8 +80,9 @@ MainWindow::MainWindow() : view_(new PlateView), session_(new PlateSession(view_
     LogEvents();
 
     statusBar()->addPermanentWidget(selection_ = new QLabel);
+    selection_->setTextFormat(Qt::PlainText);
     connect(session_, &PlateSession::failed, this,
-            [this](const QString& text) { statusBar()->showMessage(text); });
+            [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); });
     connect(session_, &PlateSession::changed, this, &MainWindow::ShowSelection);
     ShowTitle();
     ShowSelection();
@@ -163,6 +165,7 @@ void MainWindow::ShowSelection() {
 }
 
 void MainWindow::Warn(const QString& text) {
+    statusBar()->clearMessage();
     auto* box =
         new QMessageBox(QMessageBox::Warning, tr("Plate Viewer"), text, QMessageBox::Ok, this);
     box->setTextFormat(Qt::PlainText);

@@ -56,14 +56,14 @@ void ViewSettings::AddSelection() {
         [&](bool on) { widget.setDragDrop(on); });
     Add(group, tr("React to the mouse"), QStringLiteral("MouseEnabled"), true,
         [&](bool on) { widget.setMouseEnabled(on); });
-    Add(group, tr("Frame the selected block"), QStringLiteral("SelectBoxEnabled"), false,
+    Add(group, tr("Frame selected block"), QStringLiteral("SelectBoxEnabled"), false,
         [&](bool on) { session_.SetSelectBoxEnabled(on); });
 }
 
 void ViewSettings::AddLayout() {
     PlateWidget& widget = session_.Widget();
     QVBoxLayout& group = *AddGroup(tr("Layout"));
-    Add(group, tr("Fit the plate to the window"), QStringLiteral("FixedSize"), true, [&](bool on) {
+    Add(group, tr("Fit plate to window"), QStringLiteral("FixedSize"), true, [&](bool on) {
         emit fixedSizeChanged(on);
         widget.setFixedSize(on);
     });
@@ -95,13 +95,13 @@ void ViewSettings::AddScale(QVBoxLayout& group) {
 void ViewSettings::AddAids() {
     using Aid = PlateWidget::Aid;
     const std::pair<Aid, QString> aids[] = {
-        {Aid::ShiftExtendsSelection, tr("Shift extends the selection")},
-        {Aid::CtrlASelectsAll, tr("Ctrl+A selects all wells")},
-        {Aid::EscapeClearsSelection, tr("Escape clears the selection")},
-        {Aid::LegendClickSelects, tr("Click on a legend selects its line")},
-        {Aid::HighlightLegends, tr("Light up legends under the pointer")},
-        {Aid::RichToolTips, tr("Tooltips with all data")},
-        {Aid::ErrorMarks, tr("Mark wells with errors")},
+        {Aid::ShiftExtendsSelection, tr("Shift extends selection")},
+        {Aid::CtrlASelectsAll, tr("Ctrl+A selects all")},
+        {Aid::EscapeClearsSelection, tr("Escape clears selection")},
+        {Aid::LegendClickSelects, tr("Legends select their lines")},
+        {Aid::HighlightLegends, tr("Legends light up")},
+        {Aid::RichToolTips, tr("Detailed tooltips")},
+        {Aid::ErrorMarks, tr("Mark errors")},
     };
     QVBoxLayout& group = *AddGroup(tr("Aids"));
     for (const auto& [aid, text] : aids)

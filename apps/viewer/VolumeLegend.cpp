@@ -4,15 +4,18 @@
 #include "hosts/qt/QtPalette.h"
 #include "runtime/NumberText.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+
+#include <initializer_list>
 
 namespace zorvane {
 
 namespace {
 
-constexpr int kBarWidth = 160;
+constexpr int kBarWidth = 140;
 constexpr int kBarHeight = 14;
 
 QColor ToQt(Long color) { return ToColor(Resolve(color, SystemPalette())); }
@@ -54,19 +57,13 @@ QString VolumeText(Single volume) {
 } // namespace
 
 VolumeLegend::VolumeLegend(PlateSession& session, QWidget* parent)
-    : QWidget(parent), session_(session), scale_(new QWidget), least_(new QLabel),
-      greatest_(new QLabel), missing_(Swatch()) {
-    auto* scale = new QHBoxLayout(scale_);
-    scale->setContentsMargins(0, 0, 12, 0);
-    scale->addWidget(least_);
-    scale->addWidget(new ScaleBar);
-    scale->addWidget(greatest_);
-
+    : QWidget(parent), session_(session), grid_(new QGridLayout), missing_(Swatch()) {
     QLabel* zero = Swatch();
     SetColor(*zero, VolumeScale::kZeroColor);
     auto* layout = new QHBoxLayout(this);
     layout->addStretch(1);
-    layout->addWidget(scale_);
+    layout->addLayout(grid_);
+    layout->addSpacing(12);
     layout->addWidget(zero);
     layout->addWidget(new QLabel(tr("0 µl")));
     layout->addSpacing(12);
@@ -75,20 +72,42 @@ VolumeLegend::VolumeLegend(PlateSession& session, QWidget* parent)
     layout->addStretch(1);
 
     setAccessibleName(tr("Colours of volumes"));
+    connect(&session, &PlateSession::opened, this, &VolumeLegend::ListSubWells);
     connect(&session, &PlateSession::changed, this, &VolumeLegend::Refresh);
+    ListSubWells();
+}
+
+void VolumeLegend::ListSubWells() {
+    for (const Line& line : lines_)
+        qDeleteAll(std::initializer_list<QWidget*>{line.name, line.least, line.bar, line.greatest});
+    lines_.clear();
+    for (const String& name : session_.Names().SubWells()) {
+        const auto row = static_cast<int>(lines_.size());
+        const Line& line = lines_.emplace_back(
+            Line{new QLabel(QString::fromStdString(name)), new QLabel, new ScaleBar, new QLabel});
+        line.name->setTextFormat(Qt::PlainText);
+        grid_->addWidget(line.name, row, 0);
+        grid_->addWidget(line.least, row, 1, Qt::AlignRight);
+        grid_->addWidget(line.bar, row, 2);
+        grid_->addWidget(line.greatest, row, 3);
+    }
     Refresh();
 }
 
+void VolumeLegend::Show(const Line& line, const VolumeScale& scale) {
+    line.least->setText(VolumeText(scale.Least()));
+    line.greatest->setText(VolumeText(scale.Greatest()));
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{line.name, line.least, line.bar, line.greatest})
+        widget->setVisible(!scale.Empty());
+}
+
 void VolumeLegend::Refresh() {
+    const std::vector<VolumeScale>& scales = session_.Coloring().Scales();
     setVisible(session_.Coloring().IsOn());
-    const VolumeScale& scale = session_.Coloring().Scale();
-    scale_->setVisible(!scale.Empty());
-    least_->setText(VolumeText(scale.Least()));
-    greatest_->setText(VolumeText(scale.Greatest()));
     SetColor(*missing_, session_.Control().DefaultWellColor());
-    setAccessibleDescription(scale.Empty()
-                                 ? tr("No well has a volume")
-                                 : least_->text() + QStringLiteral(" – ") + greatest_->text());
+    for (std::size_t i = 0; i < lines_.size() && i < scales.size(); ++i)
+        Show(lines_[i], scales[i]);
 }
 
 } // namespace zorvane

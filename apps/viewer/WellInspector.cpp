@@ -51,6 +51,8 @@ WellInspector::WellInspector(PlateSession& session, QWidget* parent)
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * 1.8);
     legend_->setFont(large);
+    legend_->setTextFormat(Qt::PlainText);
+    location_->setTextFormat(Qt::PlainText);
     location_->setWordWrap(true);
     location_->setTextInteractionFlags(Qt::TextSelectableByMouse);
 

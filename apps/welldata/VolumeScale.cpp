@@ -55,6 +55,12 @@ VolumeScale::VolumeScale(const Plate& plate) {
         Include(plate.GetVolume(well));
 }
 
+VolumeScale::VolumeScale(const Plate& plate, Integer subWell) {
+    const int wells = plate.Rows * plate.Cols;
+    for (int well = (subWell - 1) * wells; well < subWell * wells; ++well)
+        Include(plate.GetVolume(static_cast<Integer>(well)));
+}
+
 void VolumeScale::Include(Single volume) {
     if (volume == 0) return;
     least_ = empty_ ? volume : std::min(least_, volume);

@@ -17,6 +17,8 @@ class VolumeScale {
     VolumeScale() = default;
     /// The scale from the least to the greatest volume of a plate, 0 left out.
     explicit VolumeScale(const Plate& plate);
+    /// The same for one sub-well, by its position from 1.
+    VolumeScale(const Plate& plate, Integer subWell);
 
     static constexpr Long kZeroColor = 0xFFFFFF;
 

@@ -36,8 +36,10 @@ Long VolumeColoring::OwnColor(Integer wellNo) const {
 }
 
 void VolumeColoring::Color() {
-    scale_ = on_ ? VolumeScale(plate_) : VolumeScale();
+    scales_.clear();
     if (!on_) return;
+    for (Integer subWell = 1; subWell <= plate_.SubWellCount; ++subWell)
+        scales_.emplace_back(plate_, subWell);
     for (Integer well = 0; well < plate_.TotalWells(); ++well)
         own_.push_back(BottomColor(plate_, well));
     PaintBottoms(plate_, [this](Integer well) { return ColorOf(well); });
@@ -51,7 +53,8 @@ void VolumeColoring::GiveBack() {
 
 Long VolumeColoring::ColorOf(Integer wellNo) const {
     const auto volume = KnownVolume(plate_, wellNo);
-    return volume ? scale_.ColorOf(*volume) : plate_.DefaultWellColor();
+    if (!volume) return plate_.DefaultWellColor();
+    return scales_[static_cast<std::size_t>(wellNo / (plate_.Rows * plate_.Cols))].ColorOf(*volume);
 }
 
 } // namespace zorvane

@@ -28,8 +28,8 @@ class VolumeColoring {
 
     /// The bottom colour of a well without the colouring.
     Long OwnColor(Integer wellNo) const;
-    /// The scale in force; empty while the colouring is off.
-    const VolumeScale& Scale() const { return scale_; }
+    /// The scales in force, one a sub-well; none while the colouring is off.
+    const std::vector<VolumeScale>& Scales() const { return scales_; }
 
   private:
     struct Pause {
@@ -46,7 +46,7 @@ class VolumeColoring {
 
     Plate& plate_;
     bool on_ = false;
-    VolumeScale scale_;
+    std::vector<VolumeScale> scales_;
     std::vector<Long> own_; // while the wells show their volumes
 };
 

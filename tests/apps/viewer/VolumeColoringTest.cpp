@@ -19,11 +19,14 @@ TEST(VolumeColoring, GivesTheWellsTheirOwnColoursBack) {
     plate.IsDefined(1, true);
     plate.SetVolume(2, 5);
     plate.SetVolume(3, 9);
+    plate.SetVolume(24, 100); // in another sub-well
+    plate.SetVolume(25, 200);
     host.coloring.SetOn(true);
     EXPECT_EQ(host.Bottom(0), plate.DefaultWellColor());
     EXPECT_EQ(host.Bottom(1), VolumeScale::kZeroColor);
     EXPECT_EQ(host.Bottom(2), VolumeScale::ColorAt(0));
     EXPECT_EQ(host.Bottom(3), VolumeScale::ColorAt(1));
+    EXPECT_EQ(host.Bottom(24), VolumeScale::ColorAt(0));
     EXPECT_EQ(host.coloring.OwnColor(1), plate.DefinedWellColor);
 
     host.coloring.SetOn(false);
