@@ -1,9 +1,12 @@
 #include "apps/viewer/CurrentWellMark.h"
 
 #include "apps/viewer/PlateSession.h"
+#include "drawing/Canvas.h"
 #include "hosts/qt/Units.h"
 
 #include <QPainter>
+
+#include <utility>
 
 namespace zorvane {
 
@@ -26,7 +29,9 @@ void CurrentWellMark::Follow() {
     const Surface& surface = session_.Control().Elements();
     setVisible(well && surface.fraPlate.visible && !surface.fraData.visible);
     if (!isVisibleTo(parentWidget())) return;
-    const QRectF rim = ToPixels(surface.WellRim[static_cast<std::size_t>(*well)].box);
+    const Shape& shape = surface.WellRim[static_cast<std::size_t>(*well)];
+    round_ = shape.kind == ShapeKind::Circle;
+    const QRectF rim = ToPixels(round_ ? CentredSquare(shape.box) : shape.box);
     const QPointF origin = ToPixels(surface.fraPlate.box).topLeft();
     setGeometry(
         rim.translated(origin).toAlignedRect().adjusted(-kMargin, -kMargin, kMargin, kMargin));
@@ -37,10 +42,13 @@ void CurrentWellMark::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF ring = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
-    painter.setPen(QPen(palette().color(QPalette::Base), 3));
-    painter.drawRoundedRect(ring, kMargin, kMargin);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRoundedRect(ring, kMargin, kMargin);
+    for (const auto& [role, width] : {std::pair{QPalette::Base, 3}, {QPalette::Highlight, 2}}) {
+        painter.setPen(QPen(palette().color(role), width));
+        if (round_)
+            painter.drawEllipse(ring);
+        else
+            painter.drawRoundedRect(ring, kMargin, kMargin);
+    }
 }
 
 } // namespace zorvane

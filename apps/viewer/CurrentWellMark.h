@@ -20,6 +20,7 @@ class CurrentWellMark final : public QWidget {
     void Follow();
 
     PlateSession& session_;
+    bool round_ = false;
 };
 
 } // namespace zorvane
