@@ -48,19 +48,15 @@ void DrawExclamationMark(Canvas& canvas, Rgb color, const Rect& box) {
     canvas.FillRectangle(color, {left, box.top + box.height * 0.7F, width, width});
 }
 
+/// The mark stands on a badge at the rim's upper right, clear of a caption and of sub-wells in
+/// front.
 void MarkError(const Surface& surface, std::size_t well, Single x, Single y, Canvas& canvas) {
-    const Shape& bottom = surface.WellBottom[well];
-    const Rgb fill = Resolve(bottom.fill, SystemPalette());
-    Rect box = CentredSquare(bottom.box).Moved(x, y);
-    const Label& text = surface.WellText[well];
-    // Beside a caption the mark stands on a badge at the rim's upper right.
-    if (text.visible && !text.caption.empty()) {
-        const Rect rim = surface.WellRim[well].box.Moved(x, y);
-        const Single side = std::min(std::max(kLeastBadge, rim.height / 4), rim.height);
-        box = {rim.Right() - side, rim.top, side, side};
-        canvas.DrawShape({ShapeKind::Circle, fill, true}, box);
-    }
-    DrawExclamationMark(canvas, ReadableOn(fill, kBlack), box);
+    const Rgb fill = Resolve(surface.WellBottom[well].fill, SystemPalette());
+    const Rect rim = surface.WellRim[well].box.Moved(x, y);
+    const Single side = std::min(std::max(kLeastBadge, rim.height / 4), rim.height);
+    const Rect badge{rim.Right() - side, rim.top, side, side};
+    canvas.DrawShape({ShapeKind::Circle, fill, true}, badge);
+    DrawExclamationMark(canvas, ReadableOn(fill, kBlack), badge);
 }
 
 } // namespace

@@ -7,7 +7,6 @@
 
 #include <QPaintEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 namespace zorvane {
 
@@ -67,12 +66,11 @@ void PlateWidget::PaintPlate(QPainter& painter, const QRectF& clip) {
     }
 }
 
+// A style's focus frame may tint what it surrounds, where the colours of wells mean something.
 void PlateWidget::PaintFocusRing(QPainter& painter) {
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    option.state |= QStyle::State_KeyboardFocusChange; // styles keep the ring for the keyboard
-    option.rect = ToPixels(plate_->Elements().fraPlate.box).toAlignedRect() & rect();
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    const QRectF area = ToPixels(plate_->Elements().fraPlate.box) & QRectF(rect());
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRect(area.adjusted(1, 1, -1, -1));
 }
 
 void PlateWidget::changeEvent(QEvent* event) {
