@@ -1,5 +1,6 @@
 #include "control/ArrayFill.h"
 
+#include "control/WellElements.h"
 #include "control/WellSelection.h"
 #include "model/cmPlate.h"
 #include "runtime/Checked.h"
@@ -34,11 +35,6 @@ String NumberedCaption(const String& annotation, Integer number) {
     const std::size_t mark = annotation.find('#');
     if (mark == String::npos) return annotation;
     return annotation.substr(0, mark) + std::to_string(number) + annotation.substr(mark + 1);
-}
-
-void MakeCurrent(PlateState& state, Integer row, Integer col) {
-    state.Row = row;
-    SetCol(state, col);
 }
 
 void CheckBlock(const PlateState& state) {

@@ -1,28 +1,18 @@
 #include "control/Layout.h"
 
+#include "control/DataPanel.h"
+#include "control/LegendLayout.h"
 #include "control/SubWellDrawing.h"
+#include "control/WellElements.h"
 #include "platform/Process.h"
 #include "runtime/Checked.h"
 #include "runtime/Rounding.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace zorvane {
 
 namespace {
-
-constexpr Single kLegendGap = 45;
-constexpr Single kLeastLegendLeft = 15;
-constexpr Single kColumnLegendDrop = 30;
-
-/// A size or position on the surface, computed in double and stored once.
-Single OnSurface(Double value) {
-    if (!(value <= std::numeric_limits<Integer>::max() &&
-          value >= std::numeric_limits<Integer>::min()))
-        Raise(ErrorNumber::Overflow);
-    return static_cast<Single>(value);
-}
 
 /// One layout in progress. Each member function is one step; Run has their order.
 class Layout {
@@ -30,7 +20,7 @@ class Layout {
     Layout(ControlParts parts, Boolean fullReset)
         : state_(parts.state), surface_(parts.surface), parts_(parts),
           plate_(*parts.state.PlateDef), subWells_(*parts.state.PlateDef->CompoundWell()),
-          fullReset_(fullReset) {}
+          fullReset_(fullReset), legends_(parts.state, parts.surface) {}
 
     void Run() {
         CopyPlateValues();
@@ -39,7 +29,7 @@ class Layout {
         if (state_.FixedSize) FitScaleToControl();
         surface_.fraPlate.visible = false;
         surface_.paintOrder.clear();
-        if (subWells_.Count() > 0) AnchorLegends();
+        if (subWells_.Count() > 0) legends_.Anchor();
         RetireElements();
         LayOutSubWells();
         ShowShapes();
@@ -126,7 +116,7 @@ class Layout {
                 state_.GridTop = drawing.originY;
             }
             // Only sub-well 1, the last one laid out, decides what legends are shown.
-            if (position == 1) CreateLegends();
+            if (position == 1) legends_.Begin();
             LayOutWells(drawing, position);
         }
     }
@@ -145,8 +135,8 @@ class Layout {
         Single y = drawing.originY;
         for (Integer row = 0; row < rows; ++row) {
             LayOutRow(drawing, y, well);
-            if (position == 1 && row == rows - 1) PlaceColumnLegends();
-            if (position == 1) PlaceRowLegend(row, y);
+            if (position == 1 && row == rows - 1) legends_.PlaceColumns();
+            if (position == 1) legends_.PlaceRow(row, y);
             well += static_cast<std::size_t>(cols);
             y += drawing.rowPitch;
         }
@@ -197,66 +187,6 @@ class Layout {
         }
     }
 
-    void AnchorLegends() {
-        Coordinate low;
-        Coordinate high;
-        plate_.WellEnvelope(Checked(state_.Rows) - 1, 0, low, high);
-        const Double scale = state_.DrawingScale;
-        const Double width = surface_.lblWell[0].box.width;
-        rowLegendLeft_ = std::max(ToSingle(low.X() * scale - width - kLegendGap), kLeastLegendLeft);
-        columnLegendTop_ = ToSingle(high.Y() * scale);
-        columnLegendLeft_ = ToSingle((Double{high.X()} + low.X()) * scale / 2 - width / 2);
-    }
-
-    /// Large plates show every second legend only.
-    Integer LegendStep() const { return state_.Rows < 25 && state_.Cols < 17 ? 1 : 2; }
-
-    void CreateLegends() {
-        const Integer labels = Checked(1) + std::max<Integer>(state_.Rows, 0) +
-                               (state_.Rows > 0 ? std::max<Integer>(state_.Cols, 0) : Integer{0});
-        surface_.CreateLegends(static_cast<std::size_t>(labels));
-        if (labels > state_.LabelCount) state_.LabelCount = labels;
-        nextLegend_ = 1;
-    }
-
-    // The column legends stand between the row legends of the last two rows, so a step of 2 shows
-    // every second one of each kind only by the way they are counted.
-    void PlaceColumnLegends() {
-        const Integer first = nextLegend_;
-        for (Integer column = 0; column < state_.Cols; ++column) {
-            const Integer number = nextLegend_;
-            Label& legend = NextLegend();
-            legend.visible = (number - 1) % LegendStep() == 0;
-            legend.caption = plate_.ColumnLegend(column);
-            const Integer offset = Checked(state_.ColumnPitch) * column;
-            legend.box.left = OnSurface(Double{columnLegendLeft_} + offset);
-            legend.box.top = OnSurface(Double{columnLegendTop_} + kColumnLegendDrop);
-        }
-        // Column legends are never brought to the front, so the wells lie over them.
-        PaintLegends(surface_.paintOrder.begin(), first, state_.Cols);
-    }
-
-    void PlaceRowLegend(Integer row, Single y) {
-        const Integer number = nextLegend_;
-        Label& legend = NextLegend();
-        legend.visible = number % LegendStep() == 0;
-        legend.caption = plate_.RowLegend(row);
-        legend.box.top = OnSurface(y - Double{legend.box.height} / 2);
-        legend.box.left = rowLegendLeft_;
-        PaintLegends(surface_.paintOrder.end(), number, 1);
-    }
-
-    Label& NextLegend() { return surface_.lblWell[static_cast<std::size_t>(nextLegend_++)]; }
-
-    void PaintLegends(std::vector<PaintRun>::iterator before, Integer first, Integer count) {
-        if (count < 1) return;
-        const auto& labels = surface_.lblWell;
-        const Rect bounds = Union(labels[static_cast<std::size_t>(first)].box,
-                                  labels[static_cast<std::size_t>(first + count - 1)].box);
-        surface_.paintOrder.insert(before,
-                                   {PaintRun::Kind::Legends, first, count, Integer{0}, bounds});
-    }
-
     void ShowShapes() {
         if (state_.TotalWells < 1) return;
         for (Shape& rim : surface_.WellRim)
@@ -284,10 +214,7 @@ class Layout {
     cmPlate& plate_;
     CompoundWell& subWells_;
     Boolean fullReset_;
-    Single rowLegendLeft_ = 0;
-    Single columnLegendTop_ = 0;
-    Single columnLegendLeft_ = 0;
-    Integer nextLegend_ = 1;
+    LegendLayout legends_;
 };
 
 } // namespace
@@ -300,34 +227,6 @@ void LayoutPlate(ControlParts parts, Boolean fullReset) {
         throw;
     }
     RepaintAll(parts);
-}
-
-void ShowDataPanel(ControlParts parts, Boolean visible) {
-    PlateState& state = parts.state;
-    const Rect& plate = parts.surface.fraPlate.box;
-    const Rect& data = parts.surface.fraData.box;
-    const Single button = parts.surface.cmdData.box.height;
-    Single width = parts.site.Width();
-    Single height = parts.site.Height();
-
-    if (!parts.surface.fraData.visible) state.SavedHeight = ToInteger(height);
-    parts.surface.fraData.visible = visible;
-    if (state.FixedSize) {
-        height = visible ? data.Bottom() + button : state.SavedHeight;
-    } else if (visible) {
-        if (data.width > plate.width) width = data.width;
-        if (data.height > plate.height) height = data.height + button / 2;
-    } else {
-        width = plate.width;
-        height = plate.height + button / 2;
-    }
-    if (width != parts.site.Width() || height != parts.site.Height())
-        parts.site.Resize(width, height);
-    RepaintAll(parts);
-}
-
-void RepaintAll(ControlParts parts) {
-    parts.site.Repaint({0, 0, parts.site.Width(), parts.site.Height()});
 }
 
 } // namespace zorvane

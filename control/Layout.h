@@ -12,10 +12,4 @@ namespace zorvane {
 /// shows a plate of no size; what was laid out so far stays, and the plate area stays hidden.
 void LayoutPlate(ControlParts parts, Boolean fullReset);
 
-/// Opens or closes the details panel and gives the control the size that goes with it.
-void ShowDataPanel(ControlParts parts, Boolean visible);
-
-/// The whole control has to be painted again.
-void RepaintAll(ControlParts parts);
-
 } // namespace zorvane

@@ -1,5 +1,6 @@
 #include "control/Plate.h"
 
+#include "control/DataPanel.h"
 #include "control/Layout.h"
 #include "platform/Process.h"
 #include "runtime/Checked.h"

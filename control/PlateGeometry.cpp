@@ -1,6 +1,6 @@
 #include "control/Layout.h"
 #include "control/Plate.h"
-#include "control/WellSelection.h"
+#include "control/WellElements.h"
 #include "model/Coordinate.h"
 #include "runtime/Checked.h"
 #include "runtime/NumberText.h"

@@ -1,5 +1,6 @@
 #include "control/Plate.h"
 #include "control/PointerGestures.h"
+#include "control/WellElements.h"
 #include "control/WellSelection.h"
 
 #include <string>

@@ -1,5 +1,5 @@
 #include "control/Plate.h"
-#include "control/WellSelection.h"
+#include "control/WellElements.h"
 #include "runtime/Checked.h"
 #include "runtime/NumberText.h"
 

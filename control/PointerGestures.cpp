@@ -1,5 +1,7 @@
 #include "control/PointerGestures.h"
 
+#include "control/AreaSelection.h"
+#include "control/WellElements.h"
 #include "control/WellSelection.h"
 #include "runtime/Checked.h"
 #include "runtime/Rounding.h"
@@ -15,14 +17,6 @@ constexpr Integer kLeftArrow = 37;
 constexpr Integer kUpArrow = 38;
 constexpr Integer kRightArrow = 39;
 constexpr Integer kDownArrow = 40;
-
-/// A block of the grid, both ends included.
-struct Block {
-    Integer left;
-    Integer top;
-    Integer right;
-    Integer bottom;
-};
 
 /// Ends the gesture when it goes out of scope, whatever happened in between.
 class GestureEnd {
@@ -133,67 +127,6 @@ void EndDrag(ControlParts parts, Integer button, Integer shift, Single x, Single
     parts.events.Raise([&](PlateObserver& host) { host.DragMove(button, shift, columns, rows); });
 }
 
-/// The block between the pressed well and the one so many rows and columns away, cut to the grid.
-Block BlockOf(const PlateState& state, Integer columns, Integer rows) {
-    const Integer col = Checked(state.Col) + columns;
-    const Integer row = Checked(state.Row) + rows;
-    return {std::max<Integer>(0, std::min(state.Col, col)),
-            std::max<Integer>(0, std::min(state.Row, row)),
-            std::min<Integer>(Checked(state.Cols) - 1, std::max(state.Col, col)),
-            std::min<Integer>(Checked(state.Rows) - 1, std::max(state.Row, row))};
-}
-
-void MakeCurrent(PlateState& state, Integer row, Integer col) {
-    state.Row = row;
-    SetCol(state, col);
-}
-
-void SelectBlock(ControlParts parts, const Block& block) {
-    for (Integer row = block.top; row <= block.bottom; ++row) {
-        for (Integer col = block.left; col <= block.right; ++col) {
-            MakeCurrent(parts.state, row, col);
-            AddCurrentWellToSelection(parts);
-        }
-    }
-}
-
-/// Puts the selection box around the block; leaves its last well current.
-void FrameBlock(ControlParts parts, const Block& block) {
-    PlateState& state = parts.state;
-    Outline& select = parts.surface.SelectBox;
-    HideSelectBox(parts);
-
-    MakeCurrent(state, block.top, block.left);
-    const Rect first = RimOf(parts.surface, state.CurrentWell).box;
-    state.DragAnchorX = first.left;
-    state.DragAnchorY = first.top;
-
-    MakeCurrent(state, block.bottom, block.right);
-    const Rect last = RimOf(parts.surface, state.CurrentWell).box;
-    select.box = {first.left, first.top, last.left - first.left + last.width,
-                  last.top - first.top + last.height};
-    select.visible = true;
-    RepaintInPlate(parts, select.box);
-}
-
-void EndArea(ControlParts parts, Integer columns, Integer rows) {
-    PlateState& state = parts.state;
-    parts.focus.RectangleVisible(false);
-    const Block block = BlockOf(state, columns, rows);
-    state.ArrayX = block.left;
-    state.ArrayY = block.top;
-    state.ArrayWidth = Checked(block.right) - block.left + 1;
-    state.ArrayHeight = Checked(block.bottom) - block.top + 1;
-
-    if (state.ArrayWidth == 1 && state.ArrayHeight == 1) {
-        parts.events.Raise([&](PlateObserver& host) { host.SelectWell(state.CurrentWell); });
-        return;
-    }
-    SelectBlock(parts, block);
-    if (state.SelectBoxEnabled) FrameBlock(parts, block);
-    parts.events.Raise([](PlateObserver& host) { host.SelectMultipleWells(); });
-}
-
 } // namespace
 
 void PressOnPlate(ControlParts parts, Integer button, Integer shift, Single x, Single y) {
@@ -232,7 +165,7 @@ void ReleaseOnPlate(ControlParts parts, Integer button, Integer shift, Single x,
     const Integer columns = WholePitches(state.DragAnchorX, x, state.ColumnPitch);
     const Integer rows = WholePitches(state.DragAnchorY, y, state.RowPitch);
     if (state.AreaSelect)
-        EndArea(parts, columns, rows);
+        SelectArea(parts, columns, rows);
     else if (state.Dragging)
         EndDrag(parts, button, shift, x, y, columns, rows);
     else if (parts.surface.cmdData.enabled)

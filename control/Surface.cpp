@@ -1,9 +1,19 @@
 #include "control/Surface.h"
 
+#include "runtime/RuntimeError.h"
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace zorvane {
+
+Single OnSurface(Double value) {
+    if (!(value <= std::numeric_limits<Integer>::max() &&
+          value >= std::numeric_limits<Integer>::min()))
+        Raise(ErrorNumber::Overflow);
+    return static_cast<Single>(value);
+}
 
 Surface::Surface() {
     fraPlate.visible = true;

@@ -76,6 +76,10 @@ struct PaintRun {
     Rect bounds;   ///< holds every element of the run
 };
 
+/// A size or position on the surface, computed in double and stored once; error 6 when it does not
+/// fit 16 bits.
+Single OnSurface(Double value);
+
 struct Surface {
     Surface();
 

@@ -1,6 +1,6 @@
 #include "control/WellSelection.h"
 
-#include "control/Layout.h"
+#include "control/WellElements.h"
 #include "runtime/Checked.h"
 #include "runtime/Rounding.h"
 #include "runtime/Text.h"
@@ -31,13 +31,6 @@ Integer PositionOfSubWell(const PlateState& state, const String& name) {
 
 Integer OnePastLastSubWell(const PlateState& state) {
     return Checked(state.Definition().CompoundWell()->Count()) + 1;
-}
-
-template <class Elements>
-auto& ElementOf(Elements& elements, Integer wellNo) {
-    if (wellNo < 0 || static_cast<std::size_t>(wellNo) >= elements.size())
-        Raise(ErrorNumber::SubscriptOutOfRange);
-    return elements[static_cast<std::size_t>(wellNo)];
 }
 
 Boolean Holds(const Shape& rim, Single x, Single y) {
@@ -76,6 +69,11 @@ void SetRow(PlateState& state, Integer row) {
 void SetCol(PlateState& state, Integer col) {
     state.Col = col;
     Readdress(state);
+}
+
+void MakeCurrent(PlateState& state, Integer row, Integer col) {
+    state.Row = row;
+    SetCol(state, col);
 }
 
 void SetWellIndex(PlateState& state, Integer wellIndex) {
@@ -154,49 +152,6 @@ Integer WellAt(const PlateState& state, const Surface& surface, Single x, Single
     return -1;
 }
 
-Shape& RimOf(Surface& surface, Integer wellNo) { return ElementOf(surface.WellRim, wellNo); }
-
-const Shape& RimOf(const Surface& surface, Integer wellNo) {
-    return ElementOf(surface.WellRim, wellNo);
-}
-
-Shape& BottomOf(Surface& surface, Integer wellNo) { return ElementOf(surface.WellBottom, wellNo); }
-
-const Shape& BottomOf(const Surface& surface, Integer wellNo) {
-    return ElementOf(surface.WellBottom, wellNo);
-}
-
-Label& TextOf(Surface& surface, Integer wellNo) { return ElementOf(surface.WellText, wellNo); }
-
-const Label& TextOf(const Surface& surface, Integer wellNo) {
-    return ElementOf(surface.WellText, wellNo);
-}
-
-String& TagOf(Surface& surface, Integer wellNo) { return ElementOf(surface.WellTag, wellNo); }
-
-void SetRimFill(ControlParts parts, Integer wellNo, Long color) {
-    Shape& rim = RimOf(parts.surface, wellNo);
-    rim.fill = color;
-    RepaintInPlate(parts, rim.box);
-}
-
-void SetBottomFill(ControlParts parts, Integer wellNo, Long color) {
-    Shape& bottom = BottomOf(parts.surface, wellNo);
-    bottom.fill = color;
-    RepaintInPlate(parts, bottom.box);
-}
-
-void SetAnnotation(ControlParts parts, Integer wellNo, const String& caption) {
-    TextOf(parts.surface, wellNo).caption = caption;
-    RepaintInPlate(parts, parts.surface.WellBox(static_cast<std::size_t>(wellNo)));
-}
-
-void HideSelectBox(ControlParts parts) {
-    if (!parts.surface.SelectBox.visible) return;
-    parts.surface.SelectBox.visible = false;
-    RepaintInPlate(parts, parts.surface.SelectBox.box);
-}
-
 void MarkControl(ControlParts parts, Boolean selected) {
     PlateState& state = parts.state;
     Surface& surface = parts.surface;
@@ -209,12 +164,6 @@ void MarkControl(ControlParts parts, Boolean selected) {
     for (std::size_t i = 0; i < static_cast<std::size_t>(state.LabelCount); ++i)
         surface.lblWell[i].color = surface.fraPlate.text;
     RepaintAll(parts);
-}
-
-void RepaintInPlate(ControlParts parts, const Rect& area) {
-    if (!parts.surface.fraPlate.visible) return;
-    const Rect& plate = parts.surface.fraPlate.box;
-    parts.site.Repaint(area.Moved(plate.left, plate.top));
 }
 
 } // namespace zorvane

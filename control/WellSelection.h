@@ -12,6 +12,8 @@ namespace zorvane {
 void SetCurrentWell(PlateState& state, Integer wellNo);
 void SetRow(PlateState& state, Integer row);
 void SetCol(PlateState& state, Integer col);
+/// Moves within the current sub-well.
+void MakeCurrent(PlateState& state, Integer row, Integer col);
 /// 0 stands for the last sub-well.
 void SetWellIndex(PlateState& state, Integer wellIndex);
 /// An unknown name leads one past the last sub-well, unless the present one is the default one.
@@ -30,25 +32,7 @@ Boolean IsWellSelected(const PlateState& state, Integer wellNo);
 /// The well under a point of the plate area, or -1.
 Integer WellAt(const PlateState& state, const Surface& surface, Single x, Single y);
 
-// Elements by well number; error 9 outside of the element lists.
-
-Shape& RimOf(Surface& surface, Integer wellNo);
-const Shape& RimOf(const Surface& surface, Integer wellNo);
-Shape& BottomOf(Surface& surface, Integer wellNo);
-Label& TextOf(Surface& surface, Integer wellNo);
-String& TagOf(Surface& surface, Integer wellNo);
-const Shape& BottomOf(const Surface& surface, Integer wellNo);
-const Label& TextOf(const Surface& surface, Integer wellNo);
-
-void SetRimFill(ControlParts parts, Integer wellNo, Long color);
-void SetBottomFill(ControlParts parts, Integer wellNo, Long color);
-void SetAnnotation(ControlParts parts, Integer wellNo, const String& caption);
-void HideSelectBox(ControlParts parts);
-
 /// Marks the whole control as the selected one, or not.
 void MarkControl(ControlParts parts, Boolean selected);
-
-/// Asks the host to paint an area of the plate area again.
-void RepaintInPlate(ControlParts parts, const Rect& area);
 
 } // namespace zorvane
