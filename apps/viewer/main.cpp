@@ -6,6 +6,9 @@
 #include <QStyle>
 #include <QTextStream>
 
+#include <algorithm>
+#include <string_view>
+
 namespace {
 
 using namespace zorvane;
@@ -18,20 +21,20 @@ struct Options {
     QString library;
 };
 
-Options ReadOptions(const QApplication& app) {
+Options ReadOptions(const QCoreApplication& app) {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QApplication::tr("Shows the plates of a library, and the data of their wells."));
+        QCoreApplication::tr("Shows the plates of a library, and the data of their wells."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOption({QStringLiteral("picture"),
-                      QApplication::tr("Write the picture of a plate to a file and exit."),
+                      QCoreApplication::tr("Write the picture of a plate to a file and exit."),
                       QStringLiteral("plate")});
     parser.addOption({{QStringLiteral("o"), QStringLiteral("output")},
-                      QApplication::tr("The image file that --picture writes."),
+                      QCoreApplication::tr("The image file that --picture writes."),
                       QStringLiteral("file")});
     parser.addPositionalArgument(QStringLiteral("library"),
-                                 QApplication::tr("Plate library to open."),
+                                 QCoreApplication::tr("Plate library to open."),
                                  QStringLiteral("[library]"));
     parser.process(app);
     const QStringList files = parser.positionalArguments();
@@ -50,6 +53,19 @@ int Draw(const Options& options) {
     return kFailed;
 }
 
+/// Help and version need no display.
+bool AsksForTextOnly(int argc, char** argv) {
+    return std::any_of(argv + 1, argv + argc, [](std::string_view option) {
+        return option == "-h" || option == "--help" || option == "-v" || option == "--version";
+    });
+}
+
+void NameTheProgram() {
+    QCoreApplication::setOrganizationName(QStringLiteral("Zorvane"));
+    QCoreApplication::setApplicationName(QStringLiteral("plate-viewer"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(PLATE_VIEWER_VERSION));
+}
+
 /// Where the platform has no style of its own.
 void ChooseStyle() {
     if (QApplication::style()->name() == QLatin1String("windows")) QApplication::setStyle("fusion");
@@ -58,11 +74,13 @@ void ChooseStyle() {
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    QApplication::setOrganizationName(QStringLiteral("Zorvane"));
-    QApplication::setApplicationName(QStringLiteral("plate-viewer"));
+    NameTheProgram();
+    if (AsksForTextOnly(argc, argv)) {
+        const QCoreApplication app(argc, argv);
+        ReadOptions(app);
+    }
+    const QApplication app(argc, argv);
     QApplication::setApplicationDisplayName(QStringLiteral("Plate Viewer"));
-    QApplication::setApplicationVersion(QStringLiteral(PLATE_VIEWER_VERSION));
     ChooseStyle();
 
     const Options options = ReadOptions(app);
