@@ -44,10 +44,8 @@ void CurrentWellMark::paintEvent(QPaintEvent*) {
     const QRectF ring = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
     for (const auto& [role, width] : {std::pair{QPalette::Base, 3}, {QPalette::Highlight, 2}}) {
         painter.setPen(QPen(palette().color(role), width));
-        if (round_)
-            painter.drawEllipse(ring);
-        else
-            painter.drawRoundedRect(ring, kMargin, kMargin);
+        const double radius = round_ ? ring.height() / 2 : kMargin;
+        painter.drawRoundedRect(ring, radius, radius);
     }
 }
 

@@ -72,16 +72,18 @@ QString LibraryPanel::Chosen() const {
 
 void LibraryPanel::SetChosen(const QString& name) {
     const QSignalBlocker quiet(list_);
-    for (int row = 0; row < list_->count(); ++row)
-        if (list_->item(row)->text() == name && list_->item(row)->flags() != Qt::NoItemFlags)
-            list_->setCurrentRow(row);
+    for (int row = 0; row < list_->count(); ++row) {
+        const QListWidgetItem* item = list_->item(row);
+        if (item->text() == name && item->flags() != Qt::NoItemFlags) list_->setCurrentRow(row);
+    }
 }
 
 void LibraryPanel::Filter() {
     const std::string typed = filter_->text().toStdString();
-    for (int row = 0; row < list_->count(); ++row)
-        list_->item(row)->setHidden(
-            !MatchesFilter(library_.plates[static_cast<std::size_t>(row)], typed));
+    for (int row = 0; row < list_->count(); ++row) {
+        const LibraryEntry& plate = library_.plates[static_cast<std::size_t>(row)];
+        list_->item(row)->setHidden(!MatchesFilter(plate, typed));
+    }
     if (list_->currentItem()) list_->scrollToItem(list_->currentItem());
 }
 

@@ -1,10 +1,12 @@
 #include "apps/viewer/Picture.h"
 
 #include "hosts/qt/PlateWidget.h"
+#include "hosts/qt/Units.h"
 #include "platform/Process.h"
 
 #include <QImageWriter>
-#include <QPainter>
+
+#include <algorithm>
 
 namespace zorvane {
 
@@ -12,6 +14,8 @@ namespace {
 
 constexpr int kWidth = 1000;
 constexpr int kRoomForLegends = 40;
+constexpr int kLeastHeight = 100;
+constexpr int kMargin = 8;
 
 /// Keeps what the control says instead of opening a box that nobody may be there to close.
 class KeptMessages final : public Process, public MessageDisplay {
@@ -31,11 +35,13 @@ class KeptMessages final : public Process, public MessageDisplay {
 QImage PictureOf(PlateWidget& widget) {
     const Plate& plate = widget.plate();
     const double height = kWidth * double{plate.yOverall} / double{plate.xOverall};
-    widget.resize(kWidth, qRound(height) + kRoomForLegends);
-    QImage image(widget.size(), QImage::Format_RGB32);
+    widget.resize(kWidth,
+                  qRound(std::clamp<double>(height, kLeastHeight, kLongestSide)) + kRoomForLegends);
+    widget.setRefitOnResize(true); // fits the plate to the size at once
+    const QSize area = ToPixels(plate.Elements().fraPlate.box).toAlignedRect().size();
+    QImage image(area.grownBy({kMargin, kMargin, kMargin, kMargin}), QImage::Format_RGB32);
     image.fill(widget.palette().color(QPalette::Window));
-    // The button of the details panel is no part of the plate.
-    widget.render(&image, {}, {}, QWidget::DrawWindowBackground);
+    widget.render(&image, {kMargin, kMargin}, QRect({}, area), QWidget::DrawWindowBackground);
     return image;
 }
 
@@ -45,9 +51,6 @@ QString WritePicture(const QString& library, const QString& plateName, const QSt
     KeptMessages messages;
     const InstalledProcess installed(messages);
     PlateWidget widget;
-    widget.setHorizontalCentred(true);
-    widget.setVerticalCentred(true);
-    widget.setRefitOnResize(true);
     QObject::connect(&widget, &PlateWidget::failed, &widget,
                      [&](int, const QString&, const QString& text) { messages.text = text; });
     widget.setFileName(library);

@@ -9,6 +9,7 @@ namespace zorvane {
 PlateSession::PlateSession(PlateWidget& widget, QObject* parent)
     : QObject(parent), widget_(widget), coloring_(widget.plate()), names_(widget.plate()) {
     widget_.installEventFilter(this);
+    connect(this, &PlateSession::inputSeen, this, &PlateSession::ReportInput, Qt::QueuedConnection);
     connect(&widget_, &PlateWidget::dragMoved, this,
             [this](int, int, int columns, int rows) { MoveSelection(columns, rows); });
     connect(&widget_, &PlateWidget::failed, this,
@@ -55,11 +56,11 @@ void PlateSession::KeepWells() {
 void PlateSession::BringWellsBack() {
     if (!HasWells()) return;
     const auto kept = kept_.find(Control().PlateName());
-    const bool known = kept != kept_.end() &&
-                       kept->second.size() == static_cast<std::size_t>(Control().TotalWells());
-    for (Integer well = 0; well < Control().TotalWells(); ++well)
-        Restore(Control(), well,
-                known ? kept->second[static_cast<std::size_t>(well)] : EmptyWell(Control()));
+    const auto count = static_cast<std::size_t>(Control().TotalWells());
+    const bool known = kept != kept_.end() && kept->second.size() == count;
+    const WellSnapshot empty = EmptyWell(Control());
+    for (std::size_t well = 0; well < count; ++well)
+        Restore(Control(), static_cast<Integer>(well), known ? kept->second[well] : empty);
     Control().CurrentWell(0);
     ClearSelection();
 }
@@ -132,14 +133,12 @@ bool PlateSession::eventFilter(QObject*, QEvent* event) {
 }
 
 void PlateSession::ReportLater() {
-    if (std::exchange(reporting_, true)) return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            reporting_ = false;
-            emit changed();
-        },
-        Qt::QueuedConnection);
+    if (!std::exchange(reporting_, true)) emit inputSeen();
+}
+
+void PlateSession::ReportInput() {
+    reporting_ = false;
+    emit changed();
 }
 
 } // namespace zorvane

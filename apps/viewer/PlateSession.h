@@ -68,12 +68,15 @@ class PlateSession final : public QObject {
     void changed();
     /// Something asked for was not done.
     void failed(const QString& reason);
+    /// The plate is being given input by the operator; comes before the plate has taken it.
+    void inputSeen();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void ReportLater();
+    void ReportInput();
     void ClearSelection();
     void KeepWells();
     void BringWellsBack();

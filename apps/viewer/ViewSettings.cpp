@@ -104,9 +104,11 @@ void ViewSettings::AddAids() {
         {Aid::ErrorMarks, tr("Mark errors")},
     };
     QVBoxLayout& group = *AddGroup(tr("Aids"));
-    for (const auto& [aid, text] : aids)
-        Add(group, text, QString::fromLatin1(QMetaEnum::fromType<Aid>().valueToKey(int(aid))), true,
+    const QMetaEnum names = QMetaEnum::fromType<Aid>();
+    for (const auto& [aid, text] : aids) {
+        Add(group, text, QString::fromLatin1(names.valueToKey(static_cast<int>(aid))), true,
             [this, aid = aid](bool on) { session_.Widget().setAid(aid, on); });
+    }
 }
 
 void ViewSettings::Refresh() {

@@ -28,9 +28,10 @@ class ScaleBar final : public QWidget {
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        for (int x = 0; x < width(); ++x)
-            painter.fillRect(x, 0, 1, height(),
-                             ToQt(VolumeScale::ColorAt(double(x) / (width() - 1))));
+        for (int x = 0; x < width(); ++x) {
+            const double place = static_cast<double>(x) / (width() - 1);
+            painter.fillRect(x, 0, 1, height(), ToQt(VolumeScale::ColorAt(place)));
+        }
         painter.setPen(palette().color(QPalette::Mid));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }

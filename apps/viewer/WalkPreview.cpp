@@ -48,10 +48,11 @@ void WalkPreview::paintEvent(QPaintEvent*) {
             const QRectF cell(QPointF(left + static_cast<double>(c) * kCell.width(),
                                       top + static_cast<double>(r) * kCell.height()),
                               kCell);
-            if (rows[r] && columns[c])
+            if (rows[r] && columns[c]) {
                 PaintCell(painter, cell, walk_.NumberAt(*rows[r], *columns[c]));
-            else
+            } else {
                 painter.drawText(cell, Qt::AlignCenter, QStringLiteral("…"));
+            }
         }
     }
 }

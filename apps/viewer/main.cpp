@@ -38,8 +38,8 @@ Options ReadOptions(const QCoreApplication& app) {
                                  QStringLiteral("[library]"));
     parser.process(app);
     const QStringList files = parser.positionalArguments();
-    const Options options{parser.value(QStringLiteral("picture")),
-                          parser.value(QStringLiteral("output")), files.value(0)};
+    Options options{parser.value(QStringLiteral("picture")), parser.value(QStringLiteral("output")),
+                    files.value(0)};
     const bool incomplete = parser.isSet(QStringLiteral("picture")) &&
                             (options.output.isEmpty() || options.library.isEmpty());
     if (incomplete || files.size() > 1) parser.showHelp(kFailed);

@@ -15,6 +15,7 @@ std::vector<std::optional<int>> ShownPlaces(int count, int room) {
     std::vector<std::optional<int>> places;
     const bool all = count <= room;
     const int first = all ? count : room / 2;
+    places.reserve(static_cast<std::size_t>(all ? count : room));
     for (int i = 0; i < first; ++i)
         places.emplace_back(i);
     if (all) return places;
