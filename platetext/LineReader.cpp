@@ -4,6 +4,7 @@
 #include "runtime/NumberText.h"
 #include "runtime/Rounding.h"
 #include "runtime/Text.h"
+#include "support/TStringPair.h"
 
 #include <algorithm>
 
@@ -79,6 +80,9 @@ void cmPlate::LineReader::AppendTrailingComment() {
 }
 
 void cmPlate::LineReader::Record(std::string_view name, std::string_view value, Integer position) {
+    // Definitions of one library mostly record the same properties in the same order.
+    if (TStringPair* const pair = plate_.Properties.FindNext(plate_.reader_.prefix, name))
+        return pair->Value(value);
     String& fullName = plate_.reader_.propertyName;
     fullName.assign(plate_.reader_.prefix).append(name);
     plate_.SetProperty(fullName, value, position);

@@ -38,6 +38,10 @@ class TStringPairList {
     std::shared_ptr<TStringPair> Pair(std::string_view name) const;
     /// The pair of this name, or null, whatever ErrorOnFail says.
     TStringPair* Find(std::string_view name) const { return pairs_.Find(name); }
+    /// The pair behind the one found last when its name is these two parts in a row, or null.
+    TStringPair* FindNext(std::string_view first, std::string_view rest) const {
+        return pairs_.FindNext(first, rest);
+    }
 
     String Value(std::string_view name) const;
     /// Sets the value of a pair; an absent one is appended.
