@@ -24,20 +24,10 @@ cmFocus::~cmFocus() {
     if (context_ != 0) drawing_.ReleaseDC(window_, context_);
 }
 
-void cmFocus::DragPosition(Single X, Single Y) {
-    if (enabled_ && visible_) {
-        DrawTracked(start_, end_);
-        DrawTracked(start_, {X, Y});
-    }
-    end_ = {static_cast<Double>(ToLong(X)), static_cast<Double>(ToLong(Y))};
-}
+void cmFocus::DragPosition(Single X, Single Y) { MoveTracked(start_, {ToLong(X), ToLong(Y)}); }
 
 void cmFocus::DragStart(Single MouseDownX, Single MouseDownY) {
-    if (enabled_ && visible_) {
-        DrawTracked(start_, end_);
-        DrawTracked({MouseDownX, MouseDownY}, end_);
-    }
-    start_ = {static_cast<Double>(ToLong(MouseDownX)), static_cast<Double>(ToLong(MouseDownY))};
+    MoveTracked({ToLong(MouseDownX), ToLong(MouseDownY)}, end_);
 }
 
 void cmFocus::Enabled(Boolean value) {
@@ -67,11 +57,11 @@ void cmFocus::hwnd(Long handle) {
 }
 
 void cmFocus::Refresh() {
-    if (enabled_ && visible_) DrawTracked(start_, end_);
+    if (enabled_ && visible_) DrawTracked();
 }
 
 void cmFocus::RectangleVisible(Boolean value) {
-    if (value != visible_ && enabled_) DrawTracked(start_, end_);
+    if (value != visible_ && enabled_) DrawTracked();
     visible_ = value;
 }
 
@@ -83,8 +73,19 @@ void cmFocus::DrawRectangle(Single XLeft, Single YTop, Single XRight, Single YBo
     drawing_.Rectangle(context_, PixelX(XLeft), PixelY(YTop), PixelX(XRight), PixelY(YBottom));
 }
 
-void cmFocus::DrawTracked(Corner from, Corner to) {
-    drawing_.Rectangle(context_, PixelX(from.x), PixelY(from.y), PixelX(to.x), PixelY(to.y));
+// What is drawn has the corners that are kept, rounded: drawn from others, it could be a pixel off
+// when it is erased.
+void cmFocus::MoveTracked(Corner start, Corner end) {
+    const Boolean shown = enabled_ && visible_;
+    if (shown) DrawTracked();
+    start_ = start;
+    end_ = end;
+    if (shown) DrawTracked();
+}
+
+void cmFocus::DrawTracked() {
+    drawing_.Rectangle(context_, PixelX(start_.x), PixelY(start_.y), PixelX(end_.x),
+                       PixelY(end_.y));
 }
 
 Long cmFocus::PixelX(Double x) const { return ToPixel(x, pixelScaleX_); }

@@ -46,10 +46,11 @@ class cmFocus {
 
   private:
     struct Corner {
-        Double x = 0;
-        Double y = 0;
+        Long x = 0;
+        Long y = 0;
     };
-    void DrawTracked(Corner from, Corner to);
+    void MoveTracked(Corner start, Corner end);
+    void DrawTracked();
     Long PixelX(Double x) const;
     Long PixelY(Double y) const;
 
@@ -57,7 +58,7 @@ class cmFocus {
     Boolean visible_ = false;
     Long window_ = 0;
     Boolean enabled_ = false;
-    Corner start_; // whole numbers
+    Corner start_;
     Corner end_;
     DrawingContext::Handle previousPen_ = 0;
     DrawingContext::Handle outlinePen_ = 0;
