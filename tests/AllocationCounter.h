@@ -8,13 +8,14 @@ namespace zorvane {
 /// AllocationCounter.cpp among their sources.
 class AllocationCounter {
   public:
-    AllocationCounter() : atStart_(Total()) {}
-    std::size_t Count() const { return Total() - atStart_; }
+    std::size_t Count() const { return allocations - countAtStart_; }
+    std::size_t Bytes() const { return bytes - bytesAtStart_; }
+
+    /// What the whole program has asked of `operator new` so far.
+    static inline std::size_t allocations = 0, bytes = 0;
 
   private:
-    static std::size_t Total();
-
-    std::size_t atStart_;
+    std::size_t countAtStart_ = allocations, bytesAtStart_ = bytes;
 };
 
 } // namespace zorvane

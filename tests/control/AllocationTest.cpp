@@ -1,6 +1,5 @@
-#include "TestProcess.h"
+#include "AllocationCounter.h"
 #include "control/ControlFixture.h"
-#include "control/CountedMemory.h"
 #include "control/DrawingLog.h"
 
 namespace zorvane {
@@ -30,11 +29,10 @@ TEST_F(AllocationTest, ALayoutOfTheSamePlateAllocatesNothing) {
             plate.PlateClassText(text);
             plate.WellIndex(1);
             if (plate.SubWellCount > 0) plate.InitialVolume(2.5F);
-            const std::size_t before = MemoryAskedFor().allocations;
+            const AllocationCounter counter;
             plate.DrawingScale(plate.DrawingScale());
             if (plate.SubWellCount > 0) plate.InitialVolume(2.5F); // with a full reset
-            EXPECT_EQ(MemoryAskedFor().allocations - before, 0U)
-                << plate.PlateName() << ", " << plate.TotalWells();
+            EXPECT_EQ(counter.Count(), 0U) << plate.PlateName() << ", " << plate.TotalWells();
         }
     }
 }
@@ -45,10 +43,10 @@ TEST_F(AllocationTest, AWellNumberTakesAtMost256Bytes) {
         const String text = rows == 217 ? GridText(217, 151, SubWellText("Drop1", 10, 10, 1),
                                                    "ROWLABEL 1\r\nXPITCH 2\r\nYPITCH 2\r\n")
                                         : ThreeDrops(72, 151);
-        const std::size_t before = MemoryAskedFor().bytes;
+        const AllocationCounter counter;
         plate.PlateClassText(text);
         ASSERT_GT(plate.TotalWells(), 32000);
-        EXPECT_LE(static_cast<double>(MemoryAskedFor().bytes - before) / plate.TotalWells(), 256);
+        EXPECT_LE(static_cast<double>(counter.Bytes()) / plate.TotalWells(), 256);
     }
 }
 
@@ -56,13 +54,13 @@ TEST_F(AllocationTest, ShowingAWellAllocatesNothing) {
     plate.PlateClassText(ThreeDrops(16, 24));
     plate.MultipleSelect = true;
     plate.SetWell(0, 0);
-    const std::size_t before = MemoryAskedFor().allocations;
+    const AllocationCounter counter;
     plate.SetWell(5, 5, "Drop2", wsAddToSelection);
     plate.WellColor("255");
     plate.IsDefined(7, true);
     plate.WellAnnotation(7, "short");
     plate.MouseToWell(500, 500);
-    EXPECT_EQ(MemoryAskedFor().allocations - before, 0U);
+    EXPECT_EQ(counter.Count(), 0U);
 }
 
 } // namespace

@@ -3,8 +3,6 @@
 namespace zorvane {
 namespace {
 
-using Numbers = std::vector<Integer>;
-
 class ArrayFillTest : public ControlTest {
   protected:
     ArrayFillTest() { Load(DropOnReservoir()); }
@@ -22,18 +20,17 @@ class ArrayFillTest : public ControlTest {
 TEST_F(ArrayFillTest, SetArraySelectsABlockOfASubWell) {
     plate.SetWell(0, 0, "Reservoir");
     plate.SetArray(10, 6, 2, 2, "reservoir", foBottomLeftVertical, 0x0000FF);
-    EXPECT_EQ(SelectedWells(), (Numbers{96, 178, 179, 190, 191}));
-    EXPECT_EQ(plate.NSelected(), 5);
+    EXPECT_EQ(Selected(), "5: 96 178 179 190 191");
     EXPECT_EQ(plate.CurrentWell(), 191);
     EXPECT_EQ(Shown().WellRim[178].fill, plate.DefaultSelectColor);
     EXPECT_EQ(Shown().WellBottom[178].fill, 0x0000FF);
     EXPECT_EQ(plate.ArraySubwell(), ""); // hosts read SubWell
     EXPECT_EQ(plate.SubWell(), "Reservoir");
-    EXPECT_TRUE(events.Take().empty());
+    EXPECT_EQ(events.Take(), "");
 
     // Wells selected before are neither coloured nor counted again.
     plate.SetArray(9, 6, 2, 1, "Reservoir", foTopLeftHorizontal, 0x00FF00);
-    EXPECT_EQ(plate.NSelected(), 6);
+    EXPECT_EQ(Selected(), "6: 96 177 178 179 190 191");
     EXPECT_EQ(Shown().WellBottom[177].fill, 0x00FF00);
     EXPECT_EQ(Shown().WellBottom[178].fill, 0x0000FF);
     plate.SetArray(0, 0, 1, 1, ""); // no colour
@@ -41,33 +38,32 @@ TEST_F(ArrayFillTest, SetArraySelectsABlockOfASubWell) {
 }
 
 TEST_F(ArrayFillTest, ABlockOutsideThePlateIsRefusedButRecorded) {
-    struct {
-        Integer x, y, width, height;
-        Long number;
-    } cases[] = {{11, 0, 2, 1, 2999}, {0, 7, 1, 2, 2999},    {-1, 0, 1, 1, 2999},
-                 {0, -1, 1, 1, 2999}, {32767, 0, 1, 1, 6},   {0, 32767, 1, 1, 6},
-                 {5, 5, 0, 3, 0},     {12, 8, -1, -32768, 0}};
-    for (const auto& each : cases) {
+    const auto sets = [&](int x, int y, int width, int height, Long number) {
         const auto set = [&] {
-            plate.SetArray(each.x, each.y, each.width, each.height, "Reservoir", 8);
+            plate.SetArray(static_cast<Integer>(x), static_cast<Integer>(y),
+                           static_cast<Integer>(width), static_cast<Integer>(height), "Reservoir");
         };
-        EXPECT_EQ(NumberRaisedBy(set), each.number) << each.x << ", " << each.y;
-        EXPECT_EQ(plate.ArrayX(), each.x);
-        EXPECT_EQ(plate.ArrayHeight(), each.height);
-        EXPECT_EQ(plate.SubWell(), "Reservoir");
-    }
-    EXPECT_TRUE(SelectedWells().empty());
+        EXPECT_EQ(NumberRaisedBy(set), number) << x << ", " << y;
+        EXPECT_TRUE(plate.ArrayX() == x && plate.ArrayY() == y && plate.ArrayWidth() == width &&
+                    plate.ArrayHeight() == height && plate.SubWell() == "Reservoir")
+            << x << ", " << y;
+        EXPECT_EQ(Selected(), "0:");
+    };
+    sets(11, 0, 2, 1, 2999);
+    sets(0, 7, 1, 2, 2999);
+    sets(-1, 0, 1, 1, 2999);
+    sets(0, -1, 1, 1, 2999);
+    sets(32767, 0, 1, 1, 6);
+    sets(0, 32767, 1, 1, 6);
+    sets(5, 5, 0, 3, 0);
+    sets(12, 8, -1, -32768, 0);
     try {
-        plate.SetArray(0, 0, 13, 1, "");
+        plate.SetArray(10, 0, 300, 1, "");
         ADD_FAILURE() << "not refused";
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.Source(), "Zorvane::SelectBlock");
         EXPECT_EQ(error.Description(), "Attempt to select wells outside <Demo> plate");
     }
-    plate.SetArray(0, 0, 1, 1, "Reservoir");
-    plate.WellIndex(1);
-    const auto refused = [&] { plate.SetArray(10, 0, 300, 1, "Reservoir"); };
-    EXPECT_EQ(NumberRaisedBy(refused), 2999);
     EXPECT_EQ(NumberRaisedBy([&] { plate.FillArray(1); }), 9);
 }
 
@@ -92,32 +88,25 @@ TEST_F(ArrayFillTest, WalksInEightOrders) {
 }
 
 TEST_F(ArrayFillTest, FillsFromStartToStop) {
-    struct {
-        const char* text;
-        Integer start, stop;
-        const char* captions;
-    } cases[] = {
-        {"Tip #", 1, -1, "Tip 1 Tip 2 Tip 3 Tip 4 "},
-        {"#/#", 1, -1, "1/# 2/# 3/# 4/# "},
-        {"", 1, -1, "    "},
-        {"x", 1, -1, "x x x x "},
-        {kNoValue, 1, -1, "- - - - "},
-        {"#", 3, 4, "- - 3 4 "},
-        {"#", 2, 3, "- 2 3 - "},
-        {"#", 0, 2, "1 2 - - "},
-        {"#", -3, -2, "- - - - "},
-        {"#", 4, 3, "- - - - "},
-        {"#", 1, 0, "- - - - "},
-        {"#", 4, 99, "- - - 4 "},
-        {"#", 5, 99, "- - - - "},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(testing::Message() << each.text << " " << each.start << " " << each.stop);
+    const auto fills = [&](const char* text, Integer start, Integer stop, const char* captions) {
         plate.SetArray(0, 0, 2, 2, "Reservoir");
         plate.FillArray(0, "-");
-        plate.FillArray(0x0000FF, each.text, each.start, each.stop);
-        EXPECT_EQ(Captions(0, 0, 2, 2), each.captions);
-    }
+        plate.FillArray(0x0000FF, text, start, stop);
+        EXPECT_EQ(Captions(0, 0, 2, 2), captions) << text << " " << start << " " << stop;
+    };
+    fills("Tip #", 1, -1, "Tip 1 Tip 2 Tip 3 Tip 4 ");
+    fills("#/#", 1, -1, "1/# 2/# 3/# 4/# ");
+    fills("", 1, -1, "    ");
+    fills("x", 1, -1, "x x x x ");
+    fills(kNoValue, 1, -1, "- - - - ");
+    fills("#", 3, 4, "- - 3 4 ");
+    fills("#", 2, 3, "- 2 3 - ");
+    fills("#", 0, 2, "1 2 - - ");
+    fills("#", -3, -2, "- - - - ");
+    fills("#", 4, 3, "- - - - ");
+    fills("#", 1, 0, "- - - - ");
+    fills("#", 4, 99, "- - - 4 ");
+    fills("#", 5, 99, "- - - - ");
 }
 
 TEST_F(ArrayFillTest, ColoursTheWellsOfTheSubWellChosenLast) {

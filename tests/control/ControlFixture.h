@@ -68,12 +68,16 @@ class EventLog : public PlateObserver {
     }
     void ApplyChanges() override { lines.push_back("ApplyChanges"); }
 
-    /// The lines since the last call.
-    std::vector<String> Take() { return std::exchange(lines, {}); }
-
-    std::vector<String> lines;
+    /// The lines since the last call, in one.
+    String Take() {
+        String all;
+        for (const String& line : std::exchange(lines, {}))
+            all += (all.empty() ? "" : ", ") + line;
+        return all;
+    }
 
   private:
+    std::vector<String> lines;
     static String Pointer(Integer button, Integer shift, Single x, Single y) {
         return std::to_string(button) + " " + std::to_string(shift) + " " + SingleText(x) + " " +
                SingleText(y);
@@ -97,10 +101,11 @@ class ControlTest : public testing::Test {
     const Rect& Rim(std::size_t wellNo) const { return Shown().WellRim[wellNo].box; }
     const Rect& Bottom(std::size_t wellNo) const { return Shown().WellBottom[wellNo].box; }
 
-    std::vector<Integer> SelectedWells() const {
-        std::vector<Integer> selected;
+    /// The number of selected wells as the control counts them, then the wells that are selected.
+    String Selected() const {
+        String selected = std::to_string(plate.NSelected()) + ":";
         for (Integer i = 0; i < plate.TotalWells(); ++i)
-            if (plate.IsSelected(i)) selected.push_back(i);
+            if (plate.IsSelected(i)) selected += " " + std::to_string(i);
         return selected;
     }
 

@@ -1,5 +1,7 @@
 #include "control/ControlFixture.h"
 
+#include <tuple>
+
 namespace zorvane {
 namespace {
 
@@ -7,18 +9,19 @@ using CurrentWellTest = ControlTest;
 
 TEST_F(CurrentWellTest, ANumberGivesRowColumnAndSubWell) {
     Load(DropOnReservoir());
-    struct {
-        Integer well, row, col, index;
-    } cases[] = {{0, 0, 0, 1},   {95, 7, 11, 1},   {100, 0, 4, 2},
-                 {-1, 0, -1, 1}, {-13, -1, -1, 1}, {200, 0, 8, 3}};
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.well);
-        plate.CurrentWell(each.well);
-        EXPECT_EQ(plate.CurrentWell(), each.well);
-        EXPECT_EQ(plate.Row(), each.row);
-        EXPECT_EQ(plate.Col(), each.col);
-        EXPECT_EQ(plate.WellIndex(), each.index);
-    }
+    const auto number = [&](Integer well, Integer row, Integer col, Integer index) {
+        plate.CurrentWell(well);
+        EXPECT_EQ(plate.CurrentWell(), well);
+        EXPECT_EQ(std::tuple(plate.Row(), plate.Col(), plate.WellIndex()),
+                  std::tuple(row, col, index))
+            << well;
+    };
+    number(0, 0, 0, 1);
+    number(95, 7, 11, 1);
+    number(100, 0, 4, 2);
+    number(-1, 0, -1, 1);
+    number(-13, -1, -1, 1);
+    number(200, 0, 8, 3);
 }
 
 TEST_F(CurrentWellTest, WithoutAGridEverythingButTheNumberIsZero) {
@@ -46,56 +49,46 @@ TEST_F(CurrentWellTest, RowColumnAndSubWellGiveTheNumberUnchecked) {
 
 TEST_F(CurrentWellTest, SubWellsAreFoundByName) {
     Load(GridText(8, 12, SubWellText("Drop1", 10, 10, 6) + SubWellText("Default", 10, 10, 6)));
-    struct {
-        Integer before;
-        const char* name;
-        Integer index;
-    } cases[] = {
-        {2, "", 1},      {1, "DEFAULT", 2},
-        {2, "drop1", 1}, {0, "Other", 1}, // the present sub-well reads as "Default"
-        {2, "Other", 1},                  // and so it does when it is called so
-        {1, "Other", 3},                  // beyond the last sub-well
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.name);
+    const auto finds = [&](Integer before, const char* name, Integer index) {
         plate.SetWell(1, 2);
-        if (each.before == 0) plate.PlateClassText(plate.PlateClassText());
-        if (each.before == 2) plate.WellIndex(2);
-        const Integer inSubWell = each.before == 0 ? Integer{0} : Integer{14};
-        plate.SubWell(each.name);
-        EXPECT_EQ(plate.WellIndex(), each.index);
-        EXPECT_EQ(plate.CurrentWell(), (each.index - 1) * 96 + inSubWell);
-    }
+        if (before == 0) plate.PlateClassText(plate.PlateClassText()); // back at the first well
+        if (before == 2) plate.WellIndex(2);
+        plate.SubWell(name);
+        EXPECT_EQ(plate.WellIndex(), index) << name;
+        EXPECT_EQ(plate.CurrentWell(), (index - 1) * 96 + (before == 0 ? 0 : 14)) << name;
+    };
+    finds(2, "", 1);
+    finds(1, "DEFAULT", 2);
+    finds(2, "drop1", 1);
+    finds(0, "Other", 1); // the present sub-well reads as "Default"
+    finds(2, "Other", 1); // and so it does when it is called so
+    finds(1, "Other", 3); // beyond the last sub-well
     EXPECT_EQ(NumberRaisedBy([&] { plate.SubWell(); }), 9);
     EXPECT_EQ(NumberRaisedBy([&] { plate.SubWell("Other"); }), 9);
-    plate.SubWell("Drop1");
-    EXPECT_EQ(plate.SubWell(), "Drop1");
 }
 
 TEST_F(CurrentWellTest, ArrowKeysAndTheirCharactersMoveWithinTheGrid) {
     Load(DropOnReservoir());
-    struct {
-        Integer code, row, col, newRow, newCol;
-    } cases[] = {
-        {38, 0, 3, 0, 3}, {38, 1, 3, 0, 3},  {40, 7, 3, 7, 3},   {40, 6, 3, 7, 3},
-        {37, 2, 0, 2, 0}, {37, 2, 1, 2, 0},  {39, 2, 11, 2, 11}, {39, 2, 10, 2, 11},
-        {13, 2, 2, 2, 2}, {'A', 2, 2, 2, 2},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(testing::Message() << each.code << " at " << each.row << ", " << each.col);
+    const auto moves = [&](Integer code, Integer row, Integer col, Integer newRow, Integer newCol) {
         for (const Boolean typed : {false, true}) {
-            plate.SetWell(each.row, each.col, "Reservoir", wsSilent);
-            if (typed)
-                plate.CharacterTyped(each.code);
-            else
-                plate.KeyDown(each.code, kCtrlKey);
-            EXPECT_EQ(plate.Row(), each.newRow);
-            EXPECT_EQ(plate.Col(), each.newCol);
-            EXPECT_EQ(plate.CurrentWell(), 96 + each.newRow * 12 + each.newCol);
+            plate.SetWell(row, col, "Reservoir", wsSilent);
+            typed ? plate.CharacterTyped(code) : plate.KeyDown(code, kCtrlKey);
+            EXPECT_EQ(std::pair(plate.Row(), plate.Col()), std::pair(newRow, newCol)) << code;
+            EXPECT_EQ(plate.CurrentWell(), 96 + newRow * 12 + newCol) << code;
         }
-    }
-    EXPECT_TRUE(events.Take().empty());
-    EXPECT_TRUE(SelectedWells().empty());
+    };
+    moves(38, 0, 3, 0, 3);
+    moves(38, 1, 3, 0, 3);
+    moves(40, 7, 3, 7, 3);
+    moves(40, 6, 3, 7, 3);
+    moves(37, 2, 0, 2, 0);
+    moves(37, 2, 1, 2, 0);
+    moves(39, 2, 11, 2, 11);
+    moves(39, 2, 10, 2, 11);
+    moves(13, 2, 2, 2, 2);
+    moves('A', 2, 2, 2, 2);
+    EXPECT_EQ(events.Take(), "");
+    EXPECT_EQ(Selected(), "0:");
 }
 
 } // namespace

@@ -8,6 +8,8 @@
 
 namespace zorvane {
 
+using Lines = std::vector<String>;
+
 /// Writes every drawing call down as a line. Pens are numbered from 50, contexts are 100 plus the
 /// window.
 class DrawingLog : public DrawingContext {

@@ -4,111 +4,104 @@ namespace zorvane {
 namespace {
 
 using SelectionTest = ControlTest;
-using Numbers = std::vector<Integer>;
-
-TEST_F(SelectionTest, SetWellMakesAWellCurrentAndSelectsIt) {
-    Load(OneDrop());
-    plate.SetWell(2, 3);
-    EXPECT_EQ(plate.CurrentWell(), 27);
-    EXPECT_EQ(plate.Location(), "Drop1, 2, 3");
-    EXPECT_EQ(Shown().WellRim[27].fill, plate.DefaultSelectColor);
-    plate.SetWell(0, 0);
-    EXPECT_EQ(Shown().WellRim[27].fill, plate.DefaultRimColor());
-    EXPECT_EQ(SelectedWells(), Numbers{0});
-}
 
 TEST_F(SelectionTest, ActionsOnTheSelection) {
     Load(OneDrop());
-    struct {
-        const char* what;
-        Boolean multiple;
-        WellSelectAction action;
-        Integer col;
-        Numbers selected;
-    } cases[] = {
-        {"single", false, wsSingle, 5, {5}},
-        {"single among many", true, wsSingle, 5, {5}},
-        {"single on the selected well", true, wsSingle, 0, {0}},
-        {"add", true, wsAddToSelection, 5, {0, 5}},
-        {"add takes a selected well away", true, wsAddToSelection, 0, {}},
-        {"add where only one may be selected", false, wsAddToSelection, 5, {5}},
-        {"silent", true, wsSilent, 5, {0}},
-        {"silent where only one may be selected", false, wsSilent, 5, {}},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.what);
+    const auto set = [&](const char* what, Boolean multiple, WellSelectAction action, Integer col,
+                         const char* selected) {
+        SCOPED_TRACE(what);
         plate.SetWell(0, 0);
-        plate.MultipleSelect = each.multiple;
-        plate.SetWell(0, each.col, "", each.action);
-        EXPECT_EQ(SelectedWells(), each.selected);
-        EXPECT_EQ(plate.NSelected(), static_cast<Integer>(each.selected.size()));
-        EXPECT_EQ(plate.CurrentWell(), each.col);
-    }
-    EXPECT_TRUE(events.Take().empty());
+        plate.MultipleSelect = multiple;
+        plate.SetWell(2, col, "", action);
+        EXPECT_EQ(Selected(), selected);
+        EXPECT_EQ(plate.CurrentWell(), 24 + col);
+        EXPECT_EQ(plate.Location(), "Drop1, 2, " + std::to_string(col));
+        for (Integer i = 0; i < 96; ++i)
+            EXPECT_EQ(Shown().WellRim[static_cast<std::size_t>(i)].fill,
+                      plate.IsSelected(i) ? plate.DefaultSelectColor : plate.DefaultRimColor());
+    };
+    set("single", false, wsSingle, 5, "1: 29");
+    set("single among many", true, wsSingle, 5, "1: 29");
+    set("add", true, wsAddToSelection, 5, "2: 0 29");
+    set("add where only one may be selected", false, wsAddToSelection, 5, "1: 29");
+    set("silent", true, wsSilent, 5, "1: 0");
+    set("silent where only one may be selected", false, wsSilent, 5, "0:");
+
+    plate.MultipleSelect = true;
+    plate.SetWell(0, 0);
+    plate.SetWell(0, 0); // a single selection of the selected well keeps it
+    EXPECT_EQ(Selected(), "1: 0");
+    plate.SetWell(0, 0, "", wsAddToSelection);
+    EXPECT_EQ(Selected(), "0:");
+    EXPECT_EQ(events.Take(), "");
 }
 
 TEST_F(SelectionTest, SetWellFindsTheSubWellByTheNameAskedFor) {
     Load(DropOnReservoir());
-    struct {
-        const char* name;
-        Integer col, well;
-        Long number;
-    } cases[] = {{"", 1, 1, 0},
-                 {"reservoir", 1, 97, 0},
-                 {"default", 1, 1, 0},
-                 {"Other", 1, 193, 9},
-                 {"Other", 0, 192, 91}};
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.name);
-        const auto set = [&] { plate.SetWell(0, each.col, each.name); };
-        EXPECT_EQ(NumberRaisedBy(set), each.number);
-        EXPECT_EQ(plate.CurrentWell(), each.well);
-    }
+    const auto finds = [&](const char* name, Integer col, Integer well, Long number) {
+        EXPECT_EQ(NumberRaisedBy([&] { plate.SetWell(0, col, name); }), number) << name;
+        EXPECT_EQ(plate.CurrentWell(), well) << name;
+    };
+    finds("", 1, 1, 0);
+    finds("reservoir", 1, 97, 0);
+    finds("default", 1, 1, 0);
+    finds("Other", 1, 193, 9);
+    finds("Other", 0, 192, 91);
 }
 
 TEST_F(SelectionTest, MarksSetByTheHostAreNotCounted) {
     Load(DropOnReservoir(2, 2));
     plate.SetWell(0, 0);
     plate.SelectAll(true);
-    EXPECT_EQ(SelectedWells(), (Numbers{0, 1, 2, 3, 4, 5, 6, 7}));
-    EXPECT_EQ(plate.NSelected(), 1);
+    EXPECT_EQ(Selected(), "1: 0 1 2 3 4 5 6 7");
     plate.SelectAll(false);
     plate.WellSelected(true);
-    EXPECT_EQ(SelectedWells(), Numbers{0});
-    EXPECT_EQ(plate.NSelected(), 1);
+    EXPECT_EQ(Selected(), "1: 0");
     EXPECT_EQ(NumberRaisedBy([&] { plate.SelectWell(-1, true); }), 9);
     EXPECT_EQ(NumberRaisedBy([&] { plate.SelectWell(8, true); }), 91);
-    EXPECT_TRUE(events.Take().empty());
+    EXPECT_EQ(events.Take(), "");
 }
 
-TEST_F(SelectionTest, HitTestOfOneSubWellIsTheNearestGridPoint) {
-    EXPECT_EQ(plate.MouseToWell(0, 0), -1); // nothing is loaded
-    Load(OneDrop());
-    struct {
+TEST_F(SelectionTest, TheWellUnderAPoint) {
+    struct Hit {
         Single x, y;
         Integer well;
-    } cases[] = {
-        {500, 500, 0},  {724, 500, 0},    {725, 500, 0},    {726, 500, 1},    {1175, 500, 2},
-        {1174, 500, 1}, {500, 1175, 24},  {500, 725, 0},    {275, 275, 0},    {274, 500, -1},
-        {500, 274, -1}, {5674, 3650, 95}, {5675, 3650, -1}, {5450, 3874, 95}, {5450, 3875, -1},
     };
-    for (const auto& each : cases)
-        EXPECT_EQ(plate.MouseToWell(each.x, each.y), each.well) << each.x << ", " << each.y;
+    const auto hits = [&](const std::vector<Hit>& cases) {
+        for (const Hit& each : cases)
+            EXPECT_EQ(plate.MouseToWell(each.x, each.y), each.well) << each.x << ", " << each.y;
+    };
+    hits({{0, 0, -1}}); // nothing is loaded
+    Load(OneDrop());    // the nearest grid point
+    hits({{500, 500, 0},
+          {724, 500, 0},
+          {725, 500, 0},
+          {726, 500, 1},
+          {1175, 500, 2},
+          {1174, 500, 1},
+          {500, 1175, 24},
+          {500, 725, 0},
+          {275, 275, 0},
+          {274, 500, -1},
+          {500, 274, -1},
+          {5674, 3650, 95},
+          {5675, 3650, -1},
+          {5450, 3874, 95},
+          {5450, 3875, -1}});
     EXPECT_EQ(NumberRaisedBy([&] { plate.MouseToWell(2e7F, 0); }), 6);
-}
-
-TEST_F(SelectionTest, HitTestOfSeveralSubWellsIsTheFirstRimThatHoldsThePoint) {
-    Load(DropOnReservoir());
-    struct {
-        Single x, y;
-        Integer well;
-    } cases[] = {
-        {400, 400, 0},  {325, 325, 0},  {474, 474, 0},  {475, 400, 96},
-        {324, 400, 96}, {305, 500, 96}, {304, 500, -1}, {694, 694, 96},
-        {695, 500, -1}, {500, 695, -1}, {850, 400, 1},  {1000, 950, 109},
-    };
-    for (const auto& each : cases)
-        EXPECT_EQ(plate.MouseToWell(each.x, each.y), each.well) << each.x << ", " << each.y;
+    Load(DropOnReservoir()); // the first rim that holds the point
+    hits({{400, 400, 0},
+          {325, 325, 0},
+          {474, 474, 0},
+          {475, 400, 96},
+          {324, 400, 96},
+          {305, 500, 96},
+          {304, 500, -1},
+          {694, 694, 96},
+          {695, 500, -1},
+          {500, 695, -1},
+          {850, 400, 1},
+          {1000, 950, 109}});
 }
 
 TEST_F(SelectionTest, AfterAFailedLoadNoWellIsHit) {
@@ -136,7 +129,7 @@ TEST_F(SelectionTest, MarkingTheControlColoursItsAreaAndLegends) {
     plate.MouseEnabled(false);
     plate.Selected(true);
     EXPECT_EQ(site.dataButtonFocusRequests, 1);
-    EXPECT_TRUE(SelectedWells().empty());
+    EXPECT_EQ(Selected(), "0:");
 }
 
 } // namespace

@@ -8,18 +8,11 @@ namespace zorvane {
 namespace {
 
 struct Sizes {
-    Single sizeX;
-    Single sizeY;
-    Single rimWidth;
-    Single rimHeight;
+    Single sizeX, sizeY, rimWidth, rimHeight;
 };
 
 struct Scaling {
-    Single scale = 50;
-    Single columnPitch = 9;
-    Single rowPitch = 9;
-    Single pixelX = 15;
-    Single pixelY = 15;
+    Single scale = 50, columnPitch = 9, rowPitch = 9, pixelX = 15, pixelY = 15;
 };
 
 SubWellDrawing Draw(const Sizes& sizes, const Scaling& scaling) {
@@ -35,100 +28,49 @@ SubWellDrawing Draw(const Sizes& sizes, const Scaling& scaling) {
 }
 
 TEST(SubWellDrawing, HalfSizesOfWellAndRim) {
-    struct {
-        const char* what;
-        Sizes sizes;
-        Scaling scaling;
-        Integer well, rimX, rimY;
-        Boolean border;
-    } cases[] = {
-        {"whole pixels", {6, 6, 1, 1}, {}, 150, 195, 195, true},
-        {"10.5 and 14.5 pixels round to even", {5.25, 5.25, 1, 1}, {60}, 150, 210, 210, true},
-        {"11.5 and 15.5 pixels round to even", {5.75, 5.75, 1, 1}, {60}, 180, 240, 240, true},
-        {"no size", {0.2F, 0.2F, 0, 0}, {}, 15, 45, 45, false},
-        {"one pixel", {0.6F, 0.6F, 0, 0}, {}, 30, 60, 60, true},
-        {"two pixels", {1.2F, 1.2F, 0, 0}, {}, 45, 75, 75, true},
-        {"three pixels: the well makes room for its rim",
-         {1.8F, 1.8F, 0, 0},
-         {},
-         15,
-         45,
-         45,
-         false},
-        {"a thin rim shrinks the well", {6, 6, 0.2F, 0.2F}, {}, 135, 165, 165, true},
-        {"the Y size shapes the rim alone", {6, 8, 1, 1}, {50, 9, 12}, 150, 195, 255, true},
-        {"a low rim stands out by the margin", {6, 2, 1, 1}, {}, 150, 195, 180, true},
-        {"wider than the pitch", {9, 9, 1, 1}, {}, 225, 240, 240, true},
-        {"one pixel wider than the pitch is kept",
-         {7.6F, 2, 1, 1},
-         {50, 9.3F},
-         195,
-         240,
-         225,
-         true},
-        {"the height is cut to the column pitch",
-         {4, 6, 0.8F, 0.8F},
-         {50, 6, 4},
-         105,
-         135,
-         165,
-         true},
-        {"an odd pitch is halved downwards",
-         {4, 6, 0.8F, 0.8F},
-         {50, 6.02F, 4},
-         105,
-         135,
-         165,
-         true},
-        {"pixels of 12: both directions snap with them",
-         {5, 5, 1, 1.3F},
-         {50, 9, 9, 12, 10},
-         120,
-         180,
-         192,
-         true},
-        {"pixels of 7.5", {5, 5, 1, 1}, {50, 9, 9, 7.5, 7.5}, 128, 172, 172, true},
-        {"a small well and pixels of 7.5",
-         {0.4F, 0.4F, 0, 0},
-         {50, 9, 9, 7.5, 7.5},
-         16,
-         46,
-         46,
-         false},
+    const auto draws = [](const Sizes& sizes, const Scaling& scaling, Integer well, Integer rimX,
+                          Integer rimY, Boolean border) {
+        const SubWellDrawing drawing = Draw(sizes, scaling);
+        EXPECT_TRUE(drawing.wellHalfSize == well && drawing.rimHalfWidth == rimX &&
+                    drawing.rimHalfHeight == rimY && drawing.bottomBorder == border)
+            << sizes.sizeX << " by " << sizes.sizeY << ", rim " << sizes.rimWidth << ": "
+            << drawing.wellHalfSize << ", " << drawing.rimHalfWidth << ", " << drawing.rimHalfHeight
+            << ", " << drawing.bottomBorder;
     };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.what);
-        const SubWellDrawing drawing = Draw(each.sizes, each.scaling);
-        EXPECT_EQ(drawing.wellHalfSize, each.well);
-        EXPECT_EQ(drawing.rimHalfWidth, each.rimX);
-        EXPECT_EQ(drawing.rimHalfHeight, each.rimY);
-        EXPECT_EQ(drawing.bottomBorder, each.border);
-    }
+    draws({6, 6, 1, 1}, {}, 150, 195, 195, true);
+    draws({5.25, 5.25, 1, 1}, {60}, 150, 210, 210, true);  // 10.5 and 14.5 pixels round to even
+    draws({5.75, 5.75, 1, 1}, {60}, 180, 240, 240, true);  // and so do 11.5 and 15.5
+    draws({0.2F, 0.2F, 0, 0}, {}, 15, 45, 45, false);      // no pixel
+    draws({0.6F, 0.6F, 0, 0}, {}, 30, 60, 60, true);       // one
+    draws({1.2F, 1.2F, 0, 0}, {}, 45, 75, 75, true);       // two
+    draws({1.8F, 1.8F, 0, 0}, {}, 15, 45, 45, false);      // three: the well makes room for its rim
+    draws({6, 6, 0.2F, 0.2F}, {}, 135, 165, 165, true);    // a thin rim shrinks the well
+    draws({6, 8, 1, 1}, {50, 9, 12}, 150, 195, 255, true); // the Y size shapes the rim alone
+    draws({6, 2, 1, 1}, {}, 150, 195, 180, true);          // a low rim stands out by the margin
+    draws({9, 9, 1, 1}, {}, 225, 240, 240, true);          // wider than the pitch
+    draws({7.6F, 2, 1, 1}, {50, 9.3F}, 195, 240, 225, true);    // one pixel wider is kept
+    draws({4, 6, 0.8F, 0.8F}, {50, 6, 4}, 105, 135, 165, true); // height cut to the column pitch
+    draws({4, 6, 0.8F, 0.8F}, {50, 6.02F, 4}, 105, 135, 165, true);  // odd: halved downwards
+    draws({5, 5, 1, 1.3F}, {50, 9, 9, 12, 10}, 120, 180, 192, true); // both snap along X
+    draws({5, 5, 1, 1}, {50, 9, 9, 7.5, 7.5}, 128, 172, 172, true);
+    draws({0.4F, 0.4F, 0, 0}, {50, 9, 9, 7.5, 7.5}, 16, 46, 46, false);
 }
 
 TEST(SubWellDrawing, TextBoxGrowsWithTheWell) {
-    struct {
-        Single size; // at 50 units a millimetre
-        Boolean shown;
-        Integer width, height;
-    } cases[] = {
-        {4.8F, false, 0, 0},      // 0.49 lines
-        {6, true, 270, 195},      // 0.62 lines
-        {19.2F, true, 862, 390},  // 2 lines; 862.5 rounds to even
-        {29.4F, true, 1372, 390}, // 3 lines
-        {39, true, 1852, 585},    // 4 lines
-        {78, true, 3802, 585},    // 8 lines
-        {87.6F, true, 4282, 780}, // 9 lines
-        {150, true, 7402, 780},   // 15 lines
+    EXPECT_FALSE(Draw({4.8F, 4.8F, 1, 1}, {}).textShown); // 0.49 lines
+    const auto text = [](Single size, Integer width, Integer height) {
+        const SubWellDrawing drawing = Draw({size, size, 1, 1}, {50, 200, 200});
+        EXPECT_TRUE(drawing.textShown) << size;
+        EXPECT_EQ(drawing.textWidth, width) << size;
+        EXPECT_EQ(drawing.textHeight, height) << size;
     };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.size);
-        const SubWellDrawing drawing = Draw({each.size, each.size, 1, 1}, {50, 200, 200});
-        EXPECT_EQ(drawing.textShown, each.shown);
-        if (!each.shown) continue;
-        EXPECT_EQ(drawing.textWidth, each.width);
-        EXPECT_EQ(drawing.textHeight, each.height);
-    }
+    text(6, 270, 195);      // 0.62 lines
+    text(19.2F, 862, 390);  // 2 lines; 862.5 rounds to even
+    text(29.4F, 1372, 390); // 3 lines
+    text(39, 1852, 585);    // 4 lines
+    text(78, 3802, 585);    // 8 lines
+    text(87.6F, 4282, 780); // 9 lines
+    text(150, 7402, 780);   // 15 lines
 }
 
 TEST(SubWellDrawing, OriginTakesOffsetAndRimCentreTogether) {
@@ -145,37 +87,29 @@ TEST(SubWellDrawing, OriginTakesOffsetAndRimCentreTogether) {
 }
 
 TEST(SubWellDrawing, FailsWhenASizeDoesNotFit) {
-    struct {
-        const char* what;
-        Sizes sizes;
-        Scaling scaling;
-    } cases[] = {
-        {"well", {1400, 1, 1, 1}, {}},
-        {"rim width", {660, 1, 1, 1}, {}},
-        {"rim height", {1, 660, 1, 1}, {}},
-        {"column pitch", {1, 1, 1, 1}, {50, 656, 9}},
-        {"row pitch", {1, 1, 1, 1}, {50, 9, 656}},
-        {"height cut to a very large column pitch", {1, 12, 1, 1}, {50, 655.34F, 9}},
+    const auto fails = [](const Sizes& sizes, const Scaling& scaling, const char* what) {
+        EXPECT_EQ(NumberRaisedBy([&] { Draw(sizes, scaling); }), 6) << what;
     };
-    for (const auto& each : cases)
-        EXPECT_EQ(NumberRaisedBy([&] { Draw(each.sizes, each.scaling); }), 6) << each.what;
+    fails({1400, 1, 1, 1}, {}, "well");
+    fails({660, 1, 1, 1}, {}, "rim width");
+    fails({1, 660, 1, 1}, {}, "rim height");
+    fails({1, 1, 1, 1}, {50, 656, 9}, "column pitch");
+    fails({1, 1, 1, 1}, {50, 9, 656}, "row pitch");
+    fails({1, 12, 1, 1}, {50, 655.34F, 9}, "height cut to a very large column pitch");
 }
 
 TEST(SubWellDrawing, StylesWithoutShapesKeepThoseBefore) {
-    using Kind = ShapeKind;
-    struct {
-        Long style;
-        Kind rim, bottom;
-    } cases[] = {
-        {0, Kind::Circle, Kind::Circle},    {1, Kind::Rectangle, Kind::Circle},
-        {2, Kind::Circle, Kind::Rectangle}, {3, Kind::Rectangle, Kind::Rectangle},
-        {4, Kind::Rectangle, Kind::Circle}, {-1, Kind::Rectangle, Kind::Circle},
+    using enum ShapeKind;
+    const auto shapes = [](Long style, ShapeKind rim, ShapeKind bottom) {
+        const SubWellShapes drawn = ShapesOfStyle(style, {Rectangle, Circle});
+        EXPECT_TRUE(drawn.rim == rim && drawn.bottom == bottom) << style;
     };
-    for (const auto& each : cases) {
-        const SubWellShapes shapes = ShapesOfStyle(each.style, {Kind::Rectangle, Kind::Circle});
-        EXPECT_EQ(shapes.rim, each.rim) << each.style;
-        EXPECT_EQ(shapes.bottom, each.bottom) << each.style;
-    }
+    shapes(0, Circle, Circle);
+    shapes(1, Rectangle, Circle);
+    shapes(2, Circle, Rectangle);
+    shapes(3, Rectangle, Rectangle);
+    shapes(4, Rectangle, Circle);
+    shapes(-1, Rectangle, Circle);
 }
 
 } // namespace

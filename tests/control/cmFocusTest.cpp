@@ -10,8 +10,6 @@
 namespace zorvane {
 namespace {
 
-using Lines = std::vector<String>;
-
 class cmFocusTest : public testing::Test {
   protected:
     /// On window 3, at 15 units a pixel, with a rectangle from pixel (2, 3) to (20, 30).
