@@ -21,61 +21,45 @@ TEST_F(ControlSizeTest, FixedSizeFitsTheScaleAndTheFrameFollowsOneLayoutLater) {
 }
 
 TEST_F(ControlSizeTest, CentringNeedsAFixedSize) {
-    plate.HorizontalCentred = true;
+    const auto centres = [&](Boolean across, Boolean down, Single plateLeft, Single plateTop,
+                             Single dataLeft, Single dataTop) {
+        plate.HorizontalCentred = across;
+        plate.VerticalCentred = down;
+        plate.DrawingScale(50);
+        EXPECT_EQ(Shown().fraPlate.box, (Rect{plateLeft, plateTop, 6000, 4000}));
+        EXPECT_EQ(Shown().fraData.box, (Rect{dataLeft, dataTop, 2775, 4740}));
+    };
     plate.PlateClassText(OneDrop());
-    EXPECT_EQ(Shown().fraPlate.box, (Rect{300, 0, 6000, 4000}));
-    EXPECT_EQ(Shown().fraData.box, (Rect{1912.5F, 0, 2775, 4740}));
-
-    plate.HorizontalCentred = false;
-    plate.VerticalCentred = true;
-    plate.DrawingScale(50);
-    EXPECT_EQ(Shown().fraPlate.box, (Rect{0, 280, 6000, 4000}));
-    EXPECT_EQ(Shown().fraData.box, (Rect{0, -90, 2775, 4740}));
-
+    centres(true, false, 300, 0, 1912.5F, 0);
+    centres(false, true, 0, 280, 0, -90);
     plate.FixedSize = false;
-    plate.HorizontalCentred = true;
-    plate.DrawingScale(50);
-    EXPECT_EQ(Shown().fraPlate.box, (Rect{0, 0, 6000, 4000}));
-    EXPECT_EQ(Shown().fraData.box, (Rect{0, 0, 2775, 4740}));
+    centres(true, true, 0, 0, 0, 0);
 }
 
 TEST_F(ControlSizeTest, OpeningAndClosingTheDetailsPanelSizesTheControl) {
-    struct {
-        const char* what;
-        Boolean fixedSize;
-        const char* size; // later lines of a definition win
-        Rect open, closed;
-    } cases[] = {
-        {"fitted", true, "", {0, 0, 6600, 4740 + 240}, {0, 0, 6600, 4800}},
-        {"panel taller than the plate", false, "", {0, 0, 6000, 4740 + 120}, {0, 0, 6000, 4120}},
-        {"panel wider than the plate",
-         false,
-         "XOVERALL 40\r\nYOVERALL 95\r\n",
-         {0, 0, 2775, 4870},
-         {0, 0, 2000, 4870}},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.what);
-        plate.FixedSize = each.fixedSize;
+    const auto sizes = [&](Boolean fixedSize, const char* lines, Single width, Single openHeight,
+                           Single closedWidth, Single closedHeight) {
+        const auto expectSize = [&](Boolean open, Single expectedWidth, Single height) {
+            EXPECT_EQ(plate.DataVisible(), open) << lines;
+            EXPECT_EQ(std::pair(site.Width(), site.Height()), std::pair(expectedWidth, height))
+                << lines;
+        };
+        plate.FixedSize = fixedSize;
         plate.DrawingScale(50);
-        plate.PlateClassText(GridText(2, 2, SubWellText("A", 10, 10, 6), each.size));
-        EXPECT_EQ((Rect{0, 0, site.Width(), site.Height()}), each.closed);
+        plate.PlateClassText(GridText(2, 2, SubWellText("A", 10, 10, 6), lines));
+        expectSize(false, closedWidth, closedHeight);
         plate.DataButtonPressed();
-        EXPECT_TRUE(plate.DataVisible());
-        EXPECT_EQ((Rect{0, 0, site.Width(), site.Height()}), each.open);
+        expectSize(true, width, openHeight);
         plate.DataVisible(true);
         plate.DataButtonPressed();
-        EXPECT_FALSE(plate.DataVisible());
-        EXPECT_EQ((Rect{0, 0, site.Width(), site.Height()}), each.closed);
-    }
-}
-
-TEST_F(ControlSizeTest, ALayoutClosesThePanelAndGivesTheHeightBack) {
-    plate.PlateClassText(OneDrop());
-    plate.DataVisible(true);
-    plate.DrawingScale(50);
-    EXPECT_FALSE(plate.DataVisible());
-    EXPECT_EQ(site.Height(), 4800);
+        expectSize(false, closedWidth, closedHeight);
+        plate.DataVisible(true);
+        plate.DrawingScale(plate.DrawingScale()); // a layout closes the panel too
+        expectSize(false, closedWidth, closedHeight);
+    };
+    sizes(true, "", 6600, 4740 + 240, 6600, 4800);
+    sizes(false, "", 6000, 4740 + 120, 6000, 4120); // the panel is taller than the plate
+    sizes(false, "XOVERALL 40\r\nYOVERALL 95\r\n", 2775, 4870, 2000, 4870); // and wider
 }
 
 } // namespace

@@ -14,22 +14,21 @@ TEST_F(LayoutLifecycleTest, ASmallerPlateKeepsTheRecordsItHasWellsFor) {
     EXPECT_EQ(Shown().WellText.size(), 24U);
     EXPECT_EQ(plate.Text(23), "kept");
     EXPECT_EQ(plate.Text(24), "");
-
-    struct {
-        Integer wellNo;
-        Long number;
-    } cases[] = {{23, 0}, {24, 91}, {95, 91}, {96, 91}, {97, 9}, {-1, 9}};
-    for (const auto& each : cases) {
-        plate.CurrentWell(each.wellNo);
-        EXPECT_EQ(NumberRaisedBy([&] { plate.SolutionDefined(); }), each.number) << each.wellNo;
-    }
+    const auto raises = [&](Integer wellNo, Long number) {
+        plate.CurrentWell(wellNo);
+        EXPECT_EQ(NumberRaisedBy([&] { plate.SolutionDefined(); }), number) << wellNo;
+    };
+    raises(23, 0);
+    raises(24, 91);
+    raises(96, 91);
+    raises(97, 9);
+    raises(-1, 9);
 
     Load(OneDrop(8, 12)); // grows: every record is new
     EXPECT_EQ(plate.Text(23), "");
     EXPECT_EQ(Shown().WellRim.size(), 96U);
-    Load(OneDrop(12, 8)); // as large as before
     plate.Text(95, "kept");
-    Load(OneDrop(8, 12));
+    Load(OneDrop(12, 8)); // as large as before
     EXPECT_EQ(plate.Text(95), "kept");
 }
 
@@ -51,38 +50,28 @@ TEST_F(LayoutLifecycleTest, APlateWithoutSubWellsShowsAnEmptyArea) {
 }
 
 TEST_F(LayoutLifecycleTest, AFailedLayoutLeavesThePlateAreaHidden) {
-    struct {
-        const char* what;
-        String text;
-        Long number;
-        Boolean hidden;
-    } cases[] = {
-        {"40,000 wells", OneDrop(200, 200), 6, false},
-        {"a frame of 35,000 units", GridText(1, 1, "", "XOVERALL 700\r\n"), 6, false},
-        {"a last column at 36,000 units", OneDrop(1, 80), 6, true},
-        {"a last row at 36,000 units", OneDrop(80, 1), 6, true},
-        {"a rim of 33,000 units", GridText(1, 1, SubWellText("A", 10, 10, 660)), 6, true},
-        {"a row without a label", GridText(2, 1, SubWellText("A", 1, 1, 1), "ROWLABEL \r\n"), 5,
-         true},
-    };
     Load(OneDrop());
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.what);
-        EXPECT_EQ(NumberRaisedBy([&] { plate.PlateClassText(each.text); }), each.number);
-        EXPECT_EQ(Shown().fraPlate.visible, !each.hidden);
-        for (const PaintRun& run : Shown().paintOrder) {
-            const auto end = static_cast<std::size_t>(run.first + run.count);
-            EXPECT_LE(end, run.kind == PaintRun::Kind::Wells ? Shown().WellRim.size()
-                                                             : Shown().lblWell.size());
-        }
+    const auto fails = [&](const String& text, Long number, Boolean hidden, const char* what) {
+        SCOPED_TRACE(what);
         plate.PlateClassText(OneDrop());
         EXPECT_TRUE(Shown().fraPlate.visible && Shown().WellRim[95].visible);
-    }
-}
-
-TEST_F(LayoutLifecycleTest, AFixedSizeCannotFitAPlateOfNoSize) {
+        EXPECT_EQ(NumberRaisedBy([&] { plate.PlateClassText(text); }), number);
+        EXPECT_EQ(Shown().fraPlate.visible, !hidden);
+        for (const PaintRun& run : Shown().paintOrder) {
+            const bool wells = run.kind == PaintRun::Kind::Wells;
+            EXPECT_LE(static_cast<std::size_t>(run.first + run.count),
+                      wells ? Shown().WellRim.size() : Shown().lblWell.size());
+        }
+    };
+    const auto one = [](Single size) { return SubWellText("A", 10, 10, size); };
+    fails(OneDrop(200, 200), 6, false, "40,000 wells");
+    fails(GridText(1, 1, "", "XOVERALL 700\r\n"), 6, false, "a frame of 35,000 units");
+    fails(OneDrop(1, 80), 6, true, "a last column at 36,000 units");
+    fails(OneDrop(80, 1), 6, true, "a last row at 36,000 units");
+    fails(GridText(1, 1, one(660)), 6, true, "a rim of 33,000 units");
+    fails(GridText(2, 1, one(1), "ROWLABEL \r\n"), 5, true, "a row without a label");
     for (const char* size : {"XOVERALL 0\r\n", "YOVERALL 0\r\n"}) {
-        const String text = GridText(1, 1, SubWellText("A", 1, 1, 1), size);
+        const String text = GridText(1, 1, one(1), size);
         plate.FixedSize = true;
         EXPECT_EQ(NumberRaisedBy([&] { plate.PlateClassText(text); }), 11) << size;
         plate.FixedSize = false;

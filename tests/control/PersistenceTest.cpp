@@ -7,22 +7,20 @@
 namespace zorvane {
 namespace {
 
-using Keys = std::vector<String>;
-
 class PersistenceTest : public testing::Test {
   protected:
     PersistenceTest() {
         // The library's whole name is the registry's directory followed by the file's name.
-        const String suffix = "Plates(Tarvo).Dat";
         directory = testing::TempDir() +
                     testing::UnitTest::GetInstance()->current_test_info()->name() + ".";
-        std::ofstream(directory + suffix, std::ios::binary)
+        library = directory + "Plates(Tarvo).Dat";
+        std::ofstream(library, std::ios::binary)
             << "PLATE no_plate\r\nROWS 1\r\nCOLS 2\r\nXOVERALL 90\r\nYOVERALL 90\r\n"
             << SubWellText("Only", 1, 1, 1) << OneDrop();
     }
     ~PersistenceTest() override {
         std::error_code ignored;
-        std::filesystem::remove(directory + "Plates(Tarvo).Dat", ignored);
+        std::filesystem::remove(library, ignored);
     }
 
     void RegisterDirectory() {
@@ -30,7 +28,7 @@ class PersistenceTest : public testing::Test {
                              kRegistryString, directory + '\0');
     }
 
-    String directory;
+    String directory, library;
     TestProcess process;
     MemorySite site;
 };
@@ -39,7 +37,7 @@ TEST_F(PersistenceTest, StartsWithTheDefaultLibraryAndNoPlate) {
     EXPECT_EQ(Plate(site).FileName, "Plates(Tarvo).Dat");
     RegisterDirectory();
     Plate plate(site);
-    EXPECT_EQ(plate.FileName, directory + "Plates(Tarvo).Dat");
+    EXPECT_EQ(plate.FileName, library);
     EXPECT_EQ(plate.PlateName(), "");
     plate.DrawingScale(70); // lays nothing out yet
     EXPECT_TRUE(site.repaints.empty());
@@ -61,7 +59,7 @@ TEST_F(PersistenceTest, ANewControlAndAnEmptyStoreGiveTheSameControl) {
         MemoryPropertyStore store;
         plate->SaveProperties(store);
         const std::vector<std::pair<String, PropertyValue>> expected = {
-            {"FileName", directory + "Plates(Tarvo).Dat"},
+            {"FileName", library},
             {"PlateName", String("no_plate")}, // as the library writes it
             {"FixedSize", true},
             {"DrawingScale", plate->DrawingScale()}, // fitted
@@ -84,20 +82,17 @@ TEST_F(PersistenceTest, ANewControlAndAnEmptyStoreGiveTheSameControl) {
 TEST_F(PersistenceTest, RestoresEverySettingBeforeThePlateIsLoaded) {
     MemoryPropertyStore store;
     store.values = {
-        {"FileName", directory + "Plates(Tarvo).Dat"},
-        {"PlateName", String("DEMO")},
-        {"FixedSize", false},
-        {"DrawingScale", Single{40}},
-        {"DefaultRimColor", Long{1}},
-        {"DefaultWellColor", Long{2}},
+        {"FileName", library},        {"PlateName", String("DEMO")}, {"FixedSize", false},
+        {"DrawingScale", Single{40}}, {"DefaultRimColor", Long{1}},  {"DefaultWellColor", Long{2}},
         {"MultipleSelect", true},
     };
     Plate plate(site);
     plate.RestoreProperties(store);
     EXPECT_EQ(store.reads,
-              (Keys{"FixedSize", "DrawingScale", "FileName", "DefaultRimColor",
-                    "DefaultSelectColor", "DefaultWellColor", "DeselectedColor", "SelectedColor",
-                    "HorizontalCentred", "VerticalCentred", "PlateName", "MultipleSelect"}));
+              (std::vector<String>{"FixedSize", "DrawingScale", "FileName", "DefaultRimColor",
+                                   "DefaultSelectColor", "DefaultWellColor", "DeselectedColor",
+                                   "SelectedColor", "HorizontalCentred", "VerticalCentred",
+                                   "PlateName", "MultipleSelect"}));
     EXPECT_EQ(plate.PlateName(), "Demo");
     EXPECT_EQ(plate.Elements().fraPlate.box, (Rect{0, 0, 4800, 3200}));
     EXPECT_EQ(plate.Elements().WellRim[95].fill, 1);
@@ -144,7 +139,7 @@ TEST_F(PersistenceTest, AFailedLoadKeepsTheDrawingButNotTheDefinition) {
 
 TEST_F(PersistenceTest, ALoadStartsAtTheFirstWellWithNoSubWellChosen) {
     Plate plate(site);
-    ASSERT_TRUE(plate.SetPlate("Demo", directory + "Plates(Tarvo).Dat"));
+    ASSERT_TRUE(plate.SetPlate("Demo", library));
     plate.SetWell(7, 11);
     plate.Dirty = true;
     plate.PlateName("NO_PLATE");

@@ -11,48 +11,33 @@ namespace zorvane {
 namespace {
 
 TEST(PlateLibrary, FindsAPlateOrSaysThatItCannot) {
-    const struct {
-        const char* why;
-        String text;
-        const char* name;
-        bool found;
-    } rows[] = {
-        {"the last plate, without a line end", "PLATE A\nROWS 1\nPLATE B\nROWS 2", "B", true},
-        {"another letter case", "PLATE Demo\n", "dEMO", true},
-        {"a prefix is another name", "PLATE Demo1\nPLATE Demo12\n", "Demo", false},
-        {"the first of two, though the second differs", "PLATE A\nEND\nPLATE B\nEND\n", "A", true},
-        {"behind an END", "PLATE A\nEND\nPLATE B\nEND\n", "B", false},
-        {"behind a stray line", "PLATE A\nINCLUDE x\nPLATE B\n", "B", false},
-        {"behind a line that fails", "PLATE A\nWELL w\nWELL W\nPLATE B\n", "B", false},
-        {"behind an unknown keyword", "PLATE A\nFOO 1\nPLATE B\n", "B", true},
-        {"an empty file", "", "A", false},
-        {"bytes of any kind", String("\0\xFF\x80\n\0PLATE A\n", 13), "A", false},
-        {"bytes of any kind inside a plate", "PLATE A\n\xFF\xFE \x01\x80\nPLATE B", "B", true},
-        {"a megabyte in a line", "PLATE A\nCOLS 7" + String(1 << 20, '7') + "\nPLATE B", "B",
-         false},
-        {"a megabyte of comment", "PLATE A\n;" + String(1 << 20, ';') + "\nPLATE B", "B", true},
-        {"a megabyte of digits behind the point", "PLATE A\nXPITCH 7." + String(1 << 20, '7'), "A",
-         true},
-        {"a megabyte of keyword", "PLATE A\n" + String(1 << 20, 'x') + "\nPLATE B", "B", true},
-        {"numbers out of range", "PLATE A\nXPITCH 1e39\nPLATE B", "B", false},
-        {"sixteen bits and a half", "PLATE A\nROWS 32767.5\nPLATE B", "B", false},
-    };
-    for (const auto& row : rows) {
+    const auto look = [](const char* why, const String& text, const char* name, bool found) {
         TestProcess process;
-        const TempFile library(row.text);
-        const String lost = "Can't find Plate <" + String(row.name) + "> in " + library.Path();
-        if (!row.found) process.messages.Expect(lost);
+        const TempFile library(text);
+        const String lost = "Can't find Plate <" + String(name) + "> in " + library.Path();
+        if (!found) process.messages.Expect(lost);
         cmPlate plate;
-        EXPECT_EQ(plate.SetPlate(library.Path(), row.name), row.found) << row.why;
-    }
-}
-
-TEST(PlateLibrary, FindsThePlateOfItsOwnName) {
-    const TempFile library("PLATE A\nROWS 1\nPLATE B\nROWS 2");
-    cmPlate plate;
-    plate.PlateName("B");
-    EXPECT_TRUE(plate.SetPlate(library.Path(), plate.PlateName()));
-    EXPECT_EQ(plate.Rows(), 2);
+        plate.PlateName(name);
+        EXPECT_EQ(plate.SetPlate(library.Path(), plate.PlateName()), found) << why;
+    };
+    look("the last plate, without a line end", "PLATE A\nROWS 1\nPLATE B\nROWS 2", "B", true);
+    look("another letter case", "PLATE Demo\n", "dEMO", true);
+    look("a prefix is another name", "PLATE Demo1\nPLATE Demo12\n", "Demo", false);
+    look("the first of two", "PLATE A\nEND\nPLATE B\nEND\n", "A", true);
+    look("behind an END", "PLATE A\nEND\nPLATE B\nEND\n", "B", false);
+    look("behind a stray line", "PLATE A\nINCLUDE x\nPLATE B\n", "B", false);
+    look("behind a line that fails", "PLATE A\nWELL w\nWELL W\nPLATE B\n", "B", false);
+    look("behind an unknown keyword", "PLATE A\nFOO 1\nPLATE B\n", "B", true);
+    look("an empty file", "", "A", false);
+    look("bytes of any kind", String("\0\xFF\x80\n\0PLATE A\n", 13), "A", false);
+    look("bytes of any kind in a plate", "PLATE A\n\xFF\xFE \x01\x80\nPLATE B", "B", true);
+    const String megabyte(1 << 20, '7');
+    look("a megabyte of number", "PLATE A\nCOLS 7" + megabyte + "\nPLATE B", "B", false);
+    look("a megabyte of comment", "PLATE A\n;" + megabyte + "\nPLATE B", "B", true);
+    look("a megabyte behind the point", "PLATE A\nXPITCH 7." + megabyte, "A", true);
+    look("a megabyte of keyword", "PLATE A\nx" + megabyte + "\nPLATE B", "B", true);
+    look("numbers out of range", "PLATE A\nXPITCH 1e39\nPLATE B", "B", false);
+    look("sixteen bits and a half", "PLATE A\nROWS 32767.5\nPLATE B", "B", false);
 }
 
 TEST(PlateLibrary, SaysThatItCannotRead) {
@@ -86,27 +71,20 @@ TEST(LibraryIndex, ListsWhatALookUpReads) {
 }
 
 TEST(LibraryIndex, SaysWhereTheReadingStops) {
-    const struct {
-        const char* text;
-        std::size_t plates;
-        Long line;
-        Integer code;
-    } rows[] = {
-        {"", 0, 0, 0},
-        {"; only a comment", 0, 0, 0},
-        {"PLATE A\n", 1, 0, 0},
-        {"PLATE A\nEND\nPLATE B", 1, 2, 6},
-        {"PLATE A\n\nEND", 1, 3, 6},
-        {"stray\nPLATE A", 0, 1, 6},
-        {"PLATE A\nINCLUDE x\nPLATE B", 1, 2, -1},
-    };
-    for (const auto& row : rows) {
-        const TempFile library(row.text);
+    const auto stops = [](const char* text, std::size_t plates, Long line, Integer code) {
+        const TempFile library(text);
         const LibraryListing listing = ListLibrary(library.Path());
-        EXPECT_EQ(listing.plates.size(), row.plates) << row.text;
-        EXPECT_EQ(listing.stoppedAtLine, row.line) << row.text;
-        EXPECT_EQ(listing.code, row.code) << row.text;
-    }
+        EXPECT_EQ(listing.plates.size(), plates) << text;
+        EXPECT_EQ(listing.stoppedAtLine, line) << text;
+        EXPECT_EQ(listing.code, code) << text;
+    };
+    stops("", 0, 0, 0);
+    stops("; only a comment", 0, 0, 0);
+    stops("PLATE A\n", 1, 0, 0);
+    stops("PLATE A\nEND\nPLATE B", 1, 2, 6);
+    stops("PLATE A\n\nEND", 1, 3, 6);
+    stops("stray\nPLATE A", 0, 1, 6);
+    stops("PLATE A\nINCLUDE x\nPLATE B", 1, 2, -1);
     EXPECT_EQ(NumberRaisedBy([] { ListLibrary(testing::TempDir() + "no such file"); }), 53);
 }
 

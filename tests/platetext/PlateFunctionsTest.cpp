@@ -17,25 +17,21 @@ TEST(PlateFunctions, TakesBlanksOff) {
 }
 
 TEST(PlateFunctions, TakesWordsOneByOne) {
-    const struct {
-        const char* text;
-        const char* word;
-        const char* rest;
-    } rows[] = {{"", "", ""},
-                {" \t", "", ""},
-                {"word", "word", ""},
-                {"\r\n rows 8", "rows", " 8"},
-                {"a\tb c", "a", "\tb c"},
-                {"a\r\nb c", "a\r\nb", " c"},
-                {"a ", "a", " "}};
-    for (const auto& row : rows) {
-        String text = row.text;
-        EXPECT_EQ(NextWord(text), row.word) << row.text;
-        EXPECT_EQ(text, row.rest) << row.text;
-        std::string_view view = row.text;
-        EXPECT_EQ(NextWord(view), row.word) << row.text;
-        EXPECT_EQ(view, row.rest) << row.text;
-    }
+    const auto takes = [](const char* line, const char* word, const char* rest) {
+        String text = line;
+        EXPECT_EQ(NextWord(text), word) << line;
+        EXPECT_EQ(text, rest) << line;
+        std::string_view view = line;
+        EXPECT_EQ(NextWord(view), word) << line;
+        EXPECT_EQ(view, rest) << line;
+    };
+    takes("", "", "");
+    takes(" \t", "", "");
+    takes("word", "word", "");
+    takes("\r\n rows 8", "rows", " 8");
+    takes("a\tb c", "a", "\tb c");
+    takes("a\r\nb c", "a\r\nb", " c");
+    takes("a ", "a", " ");
     String text = " Rows 8";
     EXPECT_EQ(NextWordUpper(text), "ROWS");
     EXPECT_EQ(text, " 8");
@@ -43,9 +39,7 @@ TEST(PlateFunctions, TakesWordsOneByOne) {
 
 TEST(PlateFunctions, Quotes) {
     const struct {
-        const char* text;
-        const char* mark;
-        const char* quoted;
+        const char *text, *mark, *quoted;
     } rows[] = {{"a", "(", "(a)"},       {"a", "<", "<a>"},
                 {"a", "[", "[a]"},       {"a", "{", "{a}"},
                 {"a)(b", "(", "(a)(b)"}, {"a", ")", ")a)"},
@@ -57,16 +51,11 @@ TEST(PlateFunctions, Quotes) {
 }
 
 TEST(PlateFunctions, CapitalizesTheFirstLetter) {
-    const struct {
-        const char* text;
-        const char* capitalized;
-    } rows[] = {{"", ""},
-                {"a", "A"},
-                {"dROP one", "Drop one"},
-                {"1A", "1a"},
-                {"\xC3\xA4RGER", "\xC3\xA4rger"}};
-    for (const auto& row : rows)
-        EXPECT_EQ(Capitalize(row.text), row.capitalized) << row.text;
+    EXPECT_EQ(Capitalize(""), "");
+    EXPECT_EQ(Capitalize("a"), "A");
+    EXPECT_EQ(Capitalize("dROP one"), "Drop one");
+    EXPECT_EQ(Capitalize("1A"), "1a");
+    EXPECT_EQ(Capitalize("\xC3\xA4RGER"), "\xC3\xA4rger");
 }
 
 TEST(PlateFunctions, ShowsAnErrorWithItsPlace) {

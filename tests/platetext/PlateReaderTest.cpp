@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace zorvane {
 namespace {
 
@@ -49,73 +51,52 @@ TEST(PlateReader, ReadsADefinitionUpToTheNextPlate) {
     EXPECT_EQ(plate.Comment, "two-drop vapour-diffusion plate\r\n");
     EXPECT_EQ(TagsOf(plate), "hanging|vapour|");
     ASSERT_EQ(plate.CompoundWell()->Count(), 2);
-    const auto reservoir = plate.CompoundWell()->Item("reservoir");
-    EXPECT_EQ(reservoir->Style(), 3);
-    EXPECT_EQ(reservoir->WellSizeY(), 4);
-    EXPECT_EQ(reservoir->MaxVolume(), 100);
-    const auto drop = plate.CompoundWell()->Item(2);
-    EXPECT_EQ(drop->WellName(), "Drop1");
-    EXPECT_EQ(drop->WellSizeX(), 2.5F);
-    EXPECT_EQ(drop->xOffset(), -2.2F);
-    EXPECT_EQ(drop->RimHeight(), 0.5F);
+    const WellDetails& reservoir = *plate.CompoundWell()->Item("reservoir");
+    EXPECT_TRUE(reservoir.Style() == 3 && reservoir.WellSizeY() == 4);
+    EXPECT_EQ(reservoir.MaxVolume(), 100);
+    const WellDetails& drop = *plate.CompoundWell()->Item(2);
+    EXPECT_EQ(drop.WellName(), "Drop1");
+    EXPECT_TRUE(drop.WellSizeX() == 2.5F && drop.xOffset() == -2.2F && drop.RimHeight() == 0.5F);
 }
 
 TEST(PlateReader, DrivesThroughALibrary) {
-    const struct {
-        const char* why;
-        String text;
-        const char* name;
-        std::vector<Integer> results;
-    } rows[] = {
-        {"the end of the file completes a plate", "PLATE A\nPLATE B", "b", {1, 0, 62}},
-        {"END hides what follows", "PLATE A\nEND\nPLATE B", "", {0, 6}},
-        {"unknown keywords are passed over", "PLATE A\nFOO 1\nPLATE B\n", "B", {1, 0, 62}},
-        {"INCLUDE completes a plate and then stops",
-         "PLATE A\nINCLUDE x\nPLATE B",
-         "",
-         {0, -1, -1}},
-        {"a stray line", "\n ; c\nROWS 8\nPLATE A", "A", {6, 0}},
-        {"a line that fails", "PLATE A\nROWS 99999\nPLATE B", "A", {7, 1}},
-        {"only comments", "; nothing\r\n", "", {0, 62}},
-        {"only comments, and a name", "; nothing\r\n", "A", {1, 62}},
-        {"nothing", "", "A", {62}},
-        {"blanks before the keyword, CR line ends",
-         "\t Plate\tA\r  rows 2\rPLATE B\r",
-         "A",
-         {0, 1}},
-        {"the command to the reader, in the file",
-         "PLATE A\n ResetParsePlateLine\t\nROWS 1",
-         "",
-         {6}},
-    };
-    for (const auto& row : rows) {
-        Library library(row.text);
+    const auto drive = [](const char* why, const String& text, const char* name,
+                          std::initializer_list<Integer> results) {
+        Library library(text);
         cmPlate plate;
-        for (const Integer result : row.results)
-            EXPECT_EQ(plate.ReadNextPlate(library.reader, row.name), result) << row.why;
-    }
+        for (const Integer result : results)
+            EXPECT_EQ(plate.ReadNextPlate(library.reader, name), result) << why;
+    };
+    drive("the end of the file completes a plate", "PLATE A\nPLATE B", "b", {1, 0, 62});
+    drive("END hides what follows", "PLATE A\nEND\nPLATE B", "", {0, 6});
+    drive("unknown keywords are passed over", "PLATE A\nFOO 1\nPLATE B\n", "B", {1, 0, 62});
+    drive("INCLUDE completes a plate, then stops", "PLATE A\nINCLUDE x\nPLATE B", "", {0, -1, -1});
+    drive("a stray line", "\n ; c\nROWS 8\nPLATE A", "A", {6, 0});
+    drive("a line that fails", "PLATE A\nROWS 99999\nPLATE B", "A", {7, 1});
+    drive("only comments", "; nothing\r\n", "", {0, 62});
+    drive("only comments, and a name", "; nothing\r\n", "A", {1, 62});
+    drive("nothing", "", "A", {62});
+    drive("blanks, CR line ends", "\t Plate\tA\r  rows 2\rPLATE B\r", "A", {0, 1});
+    drive("the command to the reader", "PLATE A\n ResetParsePlateLine\t\nROWS 1", "", {6});
     TextFile closed;
     EXPECT_EQ(cmPlate().ReadNextPlate(closed), 52);
 }
 
 TEST(PlateReader, AppliesNumbersLeniently) {
-    const struct {
-        const char* line;
-        Single (*value)(const cmPlate&);
-        Single expected;
-    } rows[] = {
-        {"Cols 12.5", [](const cmPlate& p) { return Single(p.Cols()); }, 12},
-        {"Cols 13.5", [](const cmPlate& p) { return Single(p.Cols()); }, 14},
-        {"ROWS twelve", [](const cmPlate& p) { return Single(p.Rows()); }, 0},
-        {"rows -3mm", [](const cmPlate& p) { return Single(p.Rows()); }, -3},
-        {"XPITCH +1.25e1x", [](const cmPlate& p) { return p.XPitch(); }, 12.5F},
-        {"YPITCH .5", [](const cmPlate& p) { return p.YPitch(); }, 0.5F},
-        {"SHELFDEPTH -0.5", [](const cmPlate& p) { return p.ShelfDepth(); }, -0.001F},
-        {"SHELFDEPTH -0.4", [](const cmPlate& p) { return p.ShelfDepth(); }, -0.4F},
-        {"HEIGHT", [](const cmPlate& p) { return p.Height(); }, 0},
+    const auto reads = [](std::string_view line, auto property, Single value) {
+        EXPECT_EQ(Single((PlateOf({line}).*property)()), value) << line;
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(row.value(PlateOf({row.line})), row.expected) << row.line;
+    using Whole = Integer (cmPlate::*)() const;
+    using Real = Single (cmPlate::*)() const;
+    reads("Cols 12.5", Whole{&cmPlate::Cols}, 12);
+    reads("Cols 13.5", Whole{&cmPlate::Cols}, 14);
+    reads("ROWS twelve", Whole{&cmPlate::Rows}, 0);
+    reads("rows -3mm", Whole{&cmPlate::Rows}, -3);
+    reads("XPITCH +1.25e1x", Real{&cmPlate::XPitch}, 12.5F);
+    reads("YPITCH .5", Real{&cmPlate::YPitch}, 0.5F);
+    reads("SHELFDEPTH -0.5", Real{&cmPlate::ShelfDepth}, -0.001F);
+    reads("SHELFDEPTH -0.4", Real{&cmPlate::ShelfDepth}, -0.4F);
+    reads("HEIGHT", Real{&cmPlate::Height}, 0);
 }
 
 TEST(PlateReader, RecordsLinesAsTheyAreWritten) {
@@ -132,61 +113,45 @@ TEST(PlateReader, RecordsLinesAsTheyAreWritten) {
 }
 
 TEST(PlateReader, KeepsCommentsAndTags) {
-    const struct {
-        const char* line;
-        const char* comment;
-        const char* tags;
-    } rows[] = {
-        {"  ;  alone ; twice ", "alone ; twice\r\n", ""},
-        {";", "\r\n", ""},
-        {"ROWS 8 x ; ;odd ' one", "ROWS 8 : ;odd ' one\r\n", ""},
-        {"rows 8 'single", "rows 8 : single\r\n", ""},
-        {"ROWS ; 8", "", ""},
-        {"ROWS 8;9", "", ""},
-        {"END of ; it", "END of : it\r\n", ""},
-        {"PLATE Other ; next", "next\r\n", ""},
-        {"TAG hanging drop", "", "hanging drop|"},
-        {"TAG two words ; three", "TAG two : three\r\n", "two words ; three|"},
-        {"TAGLIST a b ;c d", "", "a|b|"},
-        {"TAGLIST a b a ; it's", "", "b|a|"},
-        {"XYZ 1 2 ; any system", "XYZ 1 : any system\r\n", ""},
+    const auto keeps = [](std::string_view line, const char* comment, const char* tags) {
+        const cmPlate plate = PlateOf({line});
+        EXPECT_EQ(plate.Comment, comment) << line;
+        EXPECT_EQ(TagsOf(plate), tags) << line;
     };
-    for (const auto& row : rows) {
-        const cmPlate plate = PlateOf({row.line});
-        EXPECT_EQ(plate.Comment, row.comment) << row.line;
-        EXPECT_EQ(TagsOf(plate), row.tags) << row.line;
-    }
+    keeps("  ;  alone ; twice ", "alone ; twice\r\n", "");
+    keeps(";", "\r\n", "");
+    keeps("ROWS 8 x ; ;odd ' one", "ROWS 8 : ;odd ' one\r\n", "");
+    keeps("rows 8 'single", "rows 8 : single\r\n", "");
+    keeps("ROWS ; 8", "", "");
+    keeps("ROWS 8;9", "", "");
+    keeps("END of ; it", "END of : it\r\n", "");
+    keeps("PLATE Other ; next", "next\r\n", "");
+    keeps("TAG hanging drop", "", "hanging drop|");
+    keeps("TAG two words ; three", "TAG two : three\r\n", "two words ; three|");
+    keeps("TAGLIST a b ;c d", "", "a|b|");
+    keeps("TAGLIST a b a ; it's", "", "b|a|");
+    keeps("XYZ 1 2 ; any system", "XYZ 1 : any system\r\n", "");
 }
 
 TEST(PlateReader, TakesTheDefaultsOfItsCoordinateSystem) {
-    const struct {
-        const char* system;
-        const char* line;
-        Boolean available;
-        Integer rotation;
-        Single x, y, z;
-        const char* comment;
-    } rows[] = {
-        {"", "XYZ 5 10 20", false, 0, 0, 0, 0, ""},
-        {"xyz", "XYZ 5 10 20", true, 5, 5, 10, 20, ""},
-        {"XYZ", "XYZ 7", true, 7, 7, 0, 0, ""},
-        {"XYZ", "xyz 7", false, 0, 0, 0, 0, ""},
-        {"XYZ", "XYZV 7", false, 0, 0, 0, 0, ""},
-        {"XYZV", "XYZV 2.5 1 2 3", true, 2, 2.5F, 1, 2, ""},
-        {"XYZ", "XYZ 1 2 3 ; unseen", true, 1, 1, 2, 3, ""},
-        {"XYZ", "XYZ 1 2 3;seen unseen", true, 1, 1, 2, 3, "XYZ 1 : seen\r\n"},
-    };
-    for (const auto& row : rows) {
+    const auto takes = [](const char* system, const char* line, Boolean available, Integer rotation,
+                          Single x, Single y, Single z, const char* comment) {
         cmPlate plate;
-        plate.CoordinateSystem = row.system;
-        plate.SetFromText(Lines({"PLATE P", row.line}));
-        EXPECT_EQ(plate.Available(), row.available) << row.line;
-        EXPECT_EQ(plate.DefaultRotation(), row.rotation) << row.line;
-        EXPECT_EQ(plate.DefaultX(), row.x) << row.line;
-        EXPECT_EQ(plate.DefaultY(), row.y) << row.line;
-        EXPECT_EQ(plate.DefaultZ(), row.z) << row.line;
-        EXPECT_EQ(plate.Comment, row.comment) << row.line;
-    }
+        plate.CoordinateSystem = system;
+        plate.SetFromText(Lines({"PLATE P", line}));
+        EXPECT_EQ(std::tuple(plate.Available(), plate.DefaultRotation(), plate.DefaultX(),
+                             plate.DefaultY(), plate.DefaultZ(), plate.Comment),
+                  std::tuple(available, rotation, x, y, z, String(comment)))
+            << line;
+    };
+    takes("", "XYZ 5 10 20", false, 0, 0, 0, 0, "");
+    takes("xyz", "XYZ 5 10 20", true, 5, 5, 10, 20, "");
+    takes("XYZ", "XYZ 7", true, 7, 7, 0, 0, "");
+    takes("XYZ", "xyz 7", false, 0, 0, 0, 0, "");
+    takes("XYZ", "XYZV 7", false, 0, 0, 0, 0, "");
+    takes("XYZV", "XYZV 2.5 1 2 3", true, 2, 2.5F, 1, 2, "");
+    takes("XYZ", "XYZ 1 2 3 ; unseen", true, 1, 1, 2, 3, "");
+    takes("XYZ", "XYZ 1 2 3;seen unseen", true, 1, 1, 2, 3, "XYZ 1 : seen\r\n");
 }
 
 TEST(PlateReader, MakesADefaultSubWellAndItsRims) {

@@ -16,14 +16,18 @@ TEST(SampleLibrary, PlatesSurviveAnEditAfterALookUp) {
         ASSERT_TRUE(found.SetPlate(ZORVANE_SAMPLE_LIBRARY, entry.name)) << entry.name;
         cmPlate edited;
         edited.SetFromText(found.Text());
+        EXPECT_EQ(edited.Text(), found.Text());
         EXPECT_EQ(edited.AsText(), found.AsText());
+        cmPlate fromValues;
+        fromValues.SetFromText(found.AsText());
+        EXPECT_EQ(fromValues.AsText(), found.AsText()) << "no value has more than two decimals";
     }
 }
 
 // A control newly placed on a form looks for this name.
 TEST(SampleLibrary, BeginsWithThePlateOfANewControl) {
     const auto listing = ListLibrary(ZORVANE_SAMPLE_LIBRARY);
-    ASSERT_FALSE(listing.plates.empty());
+    ASSERT_GE(listing.plates.size(), 12U);
     EXPECT_EQ(listing.plates.front().name, "No_Plate");
 }
 

@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <limits>
 #include <ostream>
-#include <utility>
 #include <vector>
 
 namespace zorvane {
@@ -128,44 +126,31 @@ TEST(InvertingOverlay, TakesAnyCoordinates) {
     EXPECT_FALSE(empty.overlay.Any());
 }
 
-/// The number of pixels that a walk over neighbouring pixels, diagonal ones included, reaches.
-std::size_t ConnectedTo(Rows picture, std::size_t x, std::size_t y) {
-    if (y >= picture.size() || x >= picture[y].size() || picture[y][x] != '#') return 0;
-    std::vector<std::pair<std::size_t, std::size_t>> open{{x, y}};
-    picture[y][x] = '.';
-    std::size_t count = 0;
-    while (!open.empty()) {
-        const auto [atX, atY] = open.back();
-        open.pop_back();
-        ++count;
-        for (std::size_t i = 0; i < 9; ++i) {
-            const std::size_t nextX = atX + i % 3 - 1;
-            const std::size_t nextY = atY + i / 3 - 1;
-            if (nextY >= picture.size() || nextX >= picture[nextY].size()) continue;
-            if (picture[nextY][nextX] != '#') continue;
-            picture[nextY][nextX] = '.';
-            open.emplace_back(nextX, nextY);
-        }
-    }
-    return count;
+/// The picture with its rows as columns.
+Rows Turned(const Rows& picture) {
+    Rows turned(picture[0].size());
+    for (const String& row : picture)
+        for (std::size_t x = 0; x < row.size(); ++x)
+            turned[x] += row[x];
+    return turned;
 }
 
+// An arc that only falls is one line when no row and no column of the box is without a pixel.
 TEST(InvertingOverlay, EllipsesFillTheirBoxWithOneClosedLine) {
     for (Long width = 1; width <= 24; ++width) {
         for (Long height = 1; height <= 24; ++height) {
-            const auto picture =
-                Drawing(width, height, kSolidPen).Draw({true, 0, 0, width, height}).Picture();
-            std::size_t pixels = 0;
-            for (const String& row : picture) {
-                EXPECT_EQ(row, String(row.rbegin(), row.rend())) << width << 'x' << height;
-                pixels += static_cast<std::size_t>(std::count(row.begin(), row.end(), '#'));
+            const Figure ellipse{true, 0, 0, width, height};
+            const Rows picture = Drawing(width, height, kSolidPen).Draw(ellipse).Picture();
+            for (const Rows& lines : {picture, Turned(picture)}) {
+                EXPECT_EQ(lines, Rows(lines.rbegin(), lines.rend())) << ellipse;
+                std::size_t before = lines[0].find('#');
+                for (std::size_t i = 0; i < (lines.size() + 1) / 2; ++i) {
+                    const std::size_t first = lines[i].find('#');
+                    ASSERT_NE(first, String::npos) << ellipse;
+                    EXPECT_LE(first, before) << ellipse;
+                    before = first;
+                }
             }
-            EXPECT_EQ(picture, Rows(picture.rbegin(), picture.rend())) << width << 'x' << height;
-            const std::size_t top = picture[0].find('#');
-            ASSERT_NE(top, String::npos) << width << 'x' << height;
-            EXPECT_EQ(picture[static_cast<std::size_t>(height) / 2][0], '#')
-                << width << 'x' << height;
-            EXPECT_EQ(ConnectedTo(picture, top, 0), pixels) << width << 'x' << height;
         }
     }
 }
