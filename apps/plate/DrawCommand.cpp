@@ -63,19 +63,16 @@ Integer WellNamed(const WellNames& names, const String& name) {
 /// One picture in the making: a control without a window.
 class Drawing {
   public:
-    explicit Drawing(const Options& options)
-        : options_(options), keyHeight_(options.data.empty() ? 0 : ShownWellData::kKeyHeight) {}
+    explicit Drawing(const Options& options) : options_(options) {}
 
     /// False when the plate cannot be found, which has then been said.
     bool Load() {
-        if (const std::optional<Size> size = ParseSize(options_.size)) FitInto(*size);
-        plate_.FixedSize = !options_.size.empty();
-        plate_.HorizontalCentred = true;
-        plate_.VerticalCentred = true;
+        const std::optional<Size> size = ParseSize(options_.size);
+        plate_.FixedSize = false;
         plate_.DrawingScale(options_.scale);
         if (!plate_.SetPlate(options_.plate, options_.library)) return false;
-        // The layout fits the scale after it has sized the frame: a second one sizes it anew.
-        if (plate_.FixedSize) plate_.DrawingScale(plate_.DrawingScale());
+        if (!options_.data.empty()) keyHeight_ = ShownWellData::KeyHeight(plate_);
+        if (size) FitInto(*size);
         return true;
     }
 
@@ -102,10 +99,16 @@ class Drawing {
         if (height_ < keyHeight_ + kFewestPixels * kTwipsPerPixel)
             Fail("the size leaves no room for the plate beside the key of the data");
         site_.SetSize(width_, height_ - keyHeight_);
+        plate_.FixedSize = true;
+        plate_.HorizontalCentred = true;
+        plate_.VerticalCentred = true;
+        // A layout fits the scale after it has sized the frame: a second one sizes it anew.
+        for (int layouts = 0; layouts < 2; ++layouts)
+            plate_.DrawingScale(plate_.DrawingScale());
     }
 
     const Options& options_;
-    Single keyHeight_;
+    Single keyHeight_ = 0;
     Single width_ = 0;
     Single height_ = 0;
     MemorySite site_;

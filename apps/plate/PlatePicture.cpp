@@ -27,8 +27,8 @@ String PlatePicture(const Plate& plate, Single width, Single height, const Shown
     PaintControl(surface, SystemPalette(), canvas);
     if (data) {
         data->PaintSigns(surface, canvas);
-        const Single keyTop = height - ShownWellData::kKeyHeight;
-        data->PaintKey({0, keyTop, width, ShownWellData::kKeyHeight}, canvas);
+        const Single keyHeight = ShownWellData::KeyHeight(plate);
+        data->PaintKey({0, height - keyHeight, width, keyHeight}, canvas);
     }
     return canvas.Finish();
 }

@@ -3,6 +3,7 @@
 #include "apps/welldata/WellDataCsv.h"
 #include "runtime/NumberText.h"
 
+#include <algorithm>
 #include <string>
 
 namespace zorvane {
@@ -12,6 +13,7 @@ namespace {
 constexpr Long kDefined = 0xE0B080; // light blue
 constexpr Long kInError = 0x5A64E8; // red
 
+constexpr int kLinesOfMarks = 3;
 constexpr Single kKeyLine = 240;
 constexpr Single kKeyInset = 120;
 constexpr Single kSwatchHeight = 165;
@@ -38,10 +40,10 @@ void PaintSign(const Rect& well, Canvas& canvas) {
                      square.Grown(-square.width * 0.3F));
 }
 
-String ScaleText(const VolumeScale& scale) {
+String ScaleText(const String& subWell, const VolumeScale& scale) {
     const String least = SingleText(scale.Least());
     const String greatest = SingleText(scale.Greatest());
-    return "volume " + (least == greatest ? least : least + " to " + greatest);
+    return subWell + ": volume " + (least == greatest ? least : least + " to " + greatest);
 }
 
 /// The lines of a key, from the top down.
@@ -88,7 +90,11 @@ ShownWellData::ShownWellData(Plate& plate, const String& csv)
     plate.DefinedWellColor = kDefined;
     plate.ErrorWellColor = kInError;
     ApplyWellData(plate, rows);
-    scale_ = VolumeScale(plate);
+    Integer position = 0;
+    for (const auto& subWell : *plate.LoadedDefinition().CompoundWell()) {
+        ++position;
+        scales_.push_back({subWell->WellName(), VolumeScale(plate, position)});
+    }
     for (Integer well = 0; well < plate.TotalWells(); ++well)
         Show(plate, well);
 }
@@ -97,11 +103,21 @@ void ShownWellData::Show(Plate& plate, Integer well) {
     const std::optional<Single> volume = KnownVolume(plate, well);
     if (IsInError(plate, well)) {
         inError_.push_back(static_cast<std::size_t>(well));
-    } else if (volume && !scale_.Empty()) {
+    } else if (volume && ShowsVolumes()) {
         plate.CurrentWell(well);
-        plate.WellColor(std::to_string(scale_.ColorOf(*volume)));
+        const auto subWell = static_cast<std::size_t>(plate.WellIndex() - 1);
+        plate.WellColor(std::to_string(scales_[subWell].scale.ColorOf(*volume)));
     }
     plate.WellAnnotation(well, CaptionOf(plate, well));
+}
+
+bool ShownWellData::ShowsVolumes() const {
+    return std::any_of(scales_.begin(), scales_.end(),
+                       [](const SubWellScale& each) { return !each.scale.Empty(); });
+}
+
+Single ShownWellData::KeyHeight(const Plate& plate) {
+    return static_cast<Single>(plate.SubWellCount + kLinesOfMarks) * kKeyLine + kKeyInset;
 }
 
 void ShownWellData::PaintSigns(const Surface& surface, Canvas& canvas) const {
@@ -119,13 +135,15 @@ void ShownWellData::PaintSigns(const Surface& surface, Canvas& canvas) const {
 void ShownWellData::PaintKey(const Rect& area, Canvas& canvas) const {
     canvas.BeginGroup("key");
     KeyPainter key(area, canvas);
-    if (scale_.Empty()) {
-        key.Line(kDefined, "defined");
-    } else {
-        key.ScaleLine(ScaleText(scale_));
+    for (const auto& [subWell, scale] : scales_)
+        if (!scale.Empty()) key.ScaleLine(ScaleText(subWell, scale));
+    if (ShowsVolumes()) {
         key.Line(VolumeScale::kZeroColor, "volume 0");
+        key.Line(defaultColor_, "no volume");
+    } else {
+        key.Line(kDefined, "defined");
+        key.Line(defaultColor_, "not defined");
     }
-    key.Line(defaultColor_, scale_.Empty() ? "not defined" : "no volume");
     const Rect swatch = key.Swatch();
     key.Line(kInError, "error (!)");
     PaintSign(swatch, canvas);

@@ -16,8 +16,8 @@ class ShownWellData {
     /// Error 13 for data that do not belong to the plate, which then stays as it was.
     ShownWellData(Plate& plate, const String& csv);
 
-    /// The height that PaintKey needs.
-    static constexpr Single kKeyHeight = 1050;
+    /// The height that PaintKey needs for a plate.
+    static Single KeyHeight(const Plate& plate);
 
     /// Paints a sign on each well in error that is too small for a caption, then, in `area`, what
     /// the colours mean.
@@ -25,9 +25,16 @@ class ShownWellData {
     void PaintKey(const Rect& area, Canvas& canvas) const;
 
   private:
-    void Show(Plate& plate, Integer well);
+    /// What a sub-well's volumes look like; drops hold far less than reservoirs.
+    struct SubWellScale {
+        String subWell;
+        VolumeScale scale;
+    };
 
-    VolumeScale scale_;
+    void Show(Plate& plate, Integer well);
+    bool ShowsVolumes() const;
+
+    std::vector<SubWellScale> scales_; ///< of all sub-wells, in their order
     Long defaultColor_;
     std::vector<std::size_t> inError_;
 };

@@ -50,11 +50,6 @@ std::optional<Single> KnownVolume(const Plate& plate, Integer wellNo) {
     return volume;
 }
 
-VolumeScale::VolumeScale(const Plate& plate) {
-    for (Integer well = 0; well < plate.TotalWells(); ++well)
-        Include(plate.GetVolume(well));
-}
-
 VolumeScale::VolumeScale(const Plate& plate, Integer subWell) {
     const int wells = plate.Rows * plate.Cols;
     for (int well = (subWell - 1) * wells; well < subWell * wells; ++well)

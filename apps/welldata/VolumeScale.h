@@ -15,9 +15,8 @@ std::optional<Single> KnownVolume(const Plate& plate, Integer wellNo);
 class VolumeScale {
   public:
     VolumeScale() = default;
-    /// The scale from the least to the greatest volume of a plate, 0 left out.
-    explicit VolumeScale(const Plate& plate);
-    /// The same for one sub-well, by its position from 1.
+    /// The scale from the least to the greatest volume of one sub-well, 0 left out. Its position
+    /// counts from 1.
     VolumeScale(const Plate& plate, Integer subWell);
 
     static constexpr Long kZeroColor = 0xFFFFFF;

@@ -147,7 +147,8 @@ TEST(PlateTool, DrawsDataOfWellsOrSaysWhereTheyAreWrong) {
                        " | " PLATE_TOOL " draw LIB batch_24 --size 800x600 --data -",
                        "");
     EXPECT_EQ(good.exitCode, 0) << good.err;
-    for (const char* part : {"width=\"800\" height=\"600\"", "&lt;full&gt;", ">! 7<", ">volume 5<"})
+    for (const char* part :
+         {"width=\"800\" height=\"600\"", "&lt;full&gt;", ">! 7<", ">Drop1: volume 5<"})
         EXPECT_NE(good.out.find(part), good.out.npos) << part;
 
     const ToolRun bad(

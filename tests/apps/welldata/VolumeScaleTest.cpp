@@ -33,7 +33,7 @@ TEST(VolumeScale, GrowsDarkerInEvenSteps) {
 TEST(VolumeScale, KeepsZeroAndMissingApartFromAnyVolume) {
     LoadedPlate host;
     Plate& plate = host.plate;
-    EXPECT_TRUE(VolumeScale(plate).Empty());
+    EXPECT_TRUE(VolumeScale(plate, 1).Empty());
 
     plate.IsDefined(1, true);
     plate.SetVolume(2, 5);
@@ -41,7 +41,7 @@ TEST(VolumeScale, KeepsZeroAndMissingApartFromAnyVolume) {
     EXPECT_FALSE(KnownVolume(plate, 0));
     EXPECT_EQ(KnownVolume(plate, 1), 0.0F);
 
-    const VolumeScale scale(plate);
+    const VolumeScale scale(plate, 1);
     EXPECT_EQ(scale.Least(), 5);
     EXPECT_EQ(scale.Greatest(), 20);
     EXPECT_EQ(scale.ColorOf(5), VolumeScale::ColorAt(0));
@@ -54,7 +54,7 @@ TEST(VolumeScale, KeepsZeroAndMissingApartFromAnyVolume) {
 TEST(VolumeScale, ShowsASingleVolumeAsTheGreatest) {
     LoadedPlate host;
     host.plate.SetVolume(2, 5);
-    EXPECT_EQ(VolumeScale(host.plate).ColorOf(5), VolumeScale::ColorAt(1));
+    EXPECT_EQ(VolumeScale(host.plate, 1).ColorOf(5), VolumeScale::ColorAt(1));
 }
 
 } // namespace
