@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
     g++ cmake ninja-build
-    qt6-base-dev qt6-tools-dev qt6-svg-dev
+    qt6-base-dev
     libcli11-dev libgtest-dev
     fonts-dejavu-core # text on a machine that has no font yet
 )
