@@ -169,6 +169,13 @@ TEST_F(GesturesTest, ADragMovesTheSelectBoxAndTellsTheHost) {
 
     Release(At(3), At(1)); // the gesture is over
     EXPECT_EQ(events.Take(), "MouseUp 1 0 1850 950");
+
+    plate.SelectBoxEnabled(false);
+    Press(0, 0);
+    site.repaints.clear();
+    Release(At(1), At(0));
+    EXPECT_EQ(events.Take(), "DragMove 1 0 1 0");
+    EXPECT_TRUE(site.repaints.empty()); // a hidden box has nothing to paint
 }
 
 TEST_F(GesturesTest, ADragReleasedOverItsStartSelectsTheFirstSubWellThere) {

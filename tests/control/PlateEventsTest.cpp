@@ -1,7 +1,6 @@
 #include "control/PlateEvents.h"
 
 #include "control/ControlFixture.h"
-#include "control/DrawingLog.h"
 
 #include <functional>
 
@@ -10,13 +9,13 @@ namespace {
 
 /// Writes its name down, then does something to the observers.
 struct Actor : PlateObserver {
-    Actor(String itsName, Lines& itsLog) : name(std::move(itsName)), log(itsLog) {}
+    Actor(String itsName, String& itsLog) : name(std::move(itsName)), log(itsLog) {}
     void Click() override {
-        log.push_back(name);
+        log += name;
         if (action) std::exchange(action, nullptr)();
     }
     String name;
-    Lines& log;
+    String& log;
     std::function<void()> action;
 };
 
@@ -26,27 +25,27 @@ class PlateEventsTest : public testing::Test {
         for (Actor* each : {&a, &b, &c})
             events.Add(*each);
     }
-    Lines Raise() {
+    String Raise() {
         events.Raise([](PlateObserver& each) { each.Click(); });
         return std::exchange(log, {});
     }
 
-    Lines log;
+    String log;
     PlateEvents events;
     Actor a{"a", log}, b{"b", log}, c{"c", log}, d{"d", log};
 };
 
 TEST_F(PlateEventsTest, ObserversMayComeAndGoDuringAnEvent) {
     b.action = [this] { events.Remove(b); };
-    EXPECT_EQ(Raise(), (Lines{"a", "b", "c"}));
-    EXPECT_EQ(Raise(), (Lines{"a", "c"}));
+    EXPECT_EQ(Raise(), "abc");
+    EXPECT_EQ(Raise(), "ac");
 
     a.action = [this] {
         events.Add(d);
         events.Remove(c);
     };
-    EXPECT_EQ(Raise(), Lines{"a"});
-    EXPECT_EQ(Raise(), (Lines{"a", "d"}));
+    EXPECT_EQ(Raise(), "a");
+    EXPECT_EQ(Raise(), "ad");
 }
 
 TEST_F(PlateEventsTest, AnEventMayBeRaisedDuringAnother) {
@@ -55,8 +54,8 @@ TEST_F(PlateEventsTest, AnEventMayBeRaisedDuringAnother) {
         events.Remove(a);
         events.Add(a);
     };
-    EXPECT_EQ(Raise(), (Lines{"a", "a", "b", "c", "b", "c"}));
-    EXPECT_EQ(Raise(), (Lines{"b", "c", "a"}));
+    EXPECT_EQ(Raise(), "aabcbc");
+    EXPECT_EQ(Raise(), "bca");
 }
 
 TEST_F(PlateEventsTest, AFailingObserverDoesNotDisturbTheOthersForGood) {
@@ -66,7 +65,7 @@ TEST_F(PlateEventsTest, AFailingObserverDoesNotDisturbTheOthersForGood) {
     };
     EXPECT_EQ(NumberRaisedBy([&] { Raise(); }), 5);
     log.clear();
-    EXPECT_EQ(Raise(), (Lines{"b", "c"}));
+    EXPECT_EQ(Raise(), "bc");
 }
 
 using ControlEventsTest = ControlTest;

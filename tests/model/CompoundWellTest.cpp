@@ -41,23 +41,20 @@ TEST(WellDetails, CopiesAllButTheInitialVolume) {
 }
 
 TEST(CompoundWell, PlacesByIndexAndRefusesWhatDoesNotFit) {
-    const struct {
-        const char* before;
-        const char* name;
-        Integer index;
-        Long error;
-        const char* after;
-    } rows[] = {
-        {"AB", "x", 0, 0, "xAB"},  {"AB", "x", -1, 0, "ABx"}, {"AB", "x", 1, 0, "AxB"},
-        {"AB", "x", 2, 0, "ABx"},  {"", "x", 5, 0, "x"},      {"AB", "x", 3, 9, "AB"},
-        {"AB", "b", 0, 457, "AB"},
+    const auto adds = [](const char* before, const char* name, Integer index, Long error,
+                         const char* after) {
+        CompoundWell layout = Layout(before);
+        EXPECT_EQ(NumberRaisedBy([&] { layout.AddSubWell(Well(name), index); }), error)
+            << before << name << index;
+        EXPECT_EQ(Names(layout), after) << before << name << index;
     };
-    for (const auto& row : rows) {
-        CompoundWell layout = Layout(row.before);
-        const Long error = NumberRaisedBy([&] { layout.AddSubWell(Well(row.name), row.index); });
-        EXPECT_EQ(error, row.error) << row.before << row.name << row.index;
-        EXPECT_EQ(Names(layout), row.after) << row.before << row.name << row.index;
-    }
+    adds("AB", "x", 0, 0, "xAB");
+    adds("AB", "x", -1, 0, "ABx");
+    adds("AB", "x", 1, 0, "AxB");
+    adds("AB", "x", 2, 0, "ABx");
+    adds("", "x", 5, 0, "x");
+    adds("AB", "x", 3, 9, "AB");
+    adds("AB", "b", 0, 457, "AB");
     CompoundWell layout = Layout("A");
     EXPECT_EQ(NumberRaisedBy([&] { layout.AddSubWell(nullptr); }), 91);
     EXPECT_EQ(layout.Add(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 3, "new", "ignored")->RimCenterY(), 10);
@@ -66,21 +63,19 @@ TEST(CompoundWell, PlacesByIndexAndRefusesWhatDoesNotFit) {
 }
 
 TEST(CompoundWell, SwapsDifferentPositionsOnly) {
-    const struct {
-        Integer index1;
-        Integer index2;
-        Long error;
-        const char* after;
-    } rows[] = {
-        {1, 3, 0, "CBAD"}, {3, 1, 0, "CBAD"},  {1, 2, 0, "BACD"}, {4, 3, 0, "ABDC"},
-        {4, 1, 0, "DBCA"}, {2, 2, 457, "BCD"}, {1, 1, 9, "ABCD"}, {1, 5, 9, "ABCD"},
-    };
-    for (const auto& row : rows) {
+    const auto swaps = [](Integer index1, Integer index2, Long error, const char* after) {
         CompoundWell layout = Layout("ABCD");
-        const Long error = NumberRaisedBy([&] { layout.Swap(row.index1, row.index2); });
-        EXPECT_EQ(error, row.error) << row.index1 << row.index2;
-        EXPECT_EQ(Names(layout), row.after) << row.index1 << row.index2;
-    }
+        EXPECT_EQ(NumberRaisedBy([&] { layout.Swap(index1, index2); }), error) << index1 << index2;
+        EXPECT_EQ(Names(layout), after) << index1 << index2;
+    };
+    swaps(1, 3, 0, "CBAD");
+    swaps(3, 1, 0, "CBAD");
+    swaps(1, 2, 0, "BACD");
+    swaps(4, 3, 0, "ABDC");
+    swaps(4, 1, 0, "DBCA");
+    swaps(2, 2, 457, "BCD");
+    swaps(1, 1, 9, "ABCD");
+    swaps(1, 5, 9, "ABCD");
 }
 
 TEST(CompoundWell, SwapKeepsTheKeysOfRenamedSubWells) {

@@ -89,29 +89,19 @@ TEST(Plate, ComputesIndices) {
 }
 
 TEST(Plate, LabelsPositions) {
-    const struct {
-        const char* rowLabel;
-        const char* columnLabel;
-        const char* legend; ///< of row 3, column 12
-    } rows[] = {
-        {"A", "1", "D13"},
-        {"a", "1", "d13"},
-        {"H", "12", "E0"},
-        {"1", "A", "4M"},
-        {"0", "2.5", "-3-9.5"},
-        {"\xC3\xA4", "1",
-         "\xC3\xA1"
-         "13"},
-        {"\xE4", "1",
-         "\xE1"
-         "13"},
-    };
-    for (const auto& row : rows) {
+    const auto labels = [](const char* row, const char* column, const char* legend) {
         cmPlate plate;
-        plate.RowLabel(row.rowLabel);
-        plate.ColumnLabel(row.columnLabel);
-        EXPECT_EQ(plate.WellLegend(3, 12), row.legend) << row.rowLabel << row.columnLabel;
-    }
+        plate.RowLabel(row);
+        plate.ColumnLabel(column);
+        EXPECT_EQ(plate.WellLegend(3, 12), legend) << row << column;
+    };
+    labels("A", "1", "D13");
+    labels("a", "1", "d13");
+    labels("H", "12", "E0");
+    labels("1", "A", "4M");
+    labels("0", "2.5", "-3-9.5");
+    labels("\xC3\xA4", "A", "\xC3\xA1M");
+    labels("\xE4", "A", "\xE1M");
     cmPlate plate;
     EXPECT_EQ(NumberRaisedBy([&] { plate.RowLegend(0); }), 5) << "no label";
     plate.RowLabel("A");

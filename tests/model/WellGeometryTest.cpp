@@ -7,7 +7,7 @@
 namespace zorvane {
 namespace {
 
-cmPlate Read(const char* text) {
+cmPlate Read(const String& text) {
     cmPlate plate;
     plate.SetFromText(text);
     return plate;
@@ -52,41 +52,33 @@ TEST(WellGeometry, TurnsByAQuarter) {
 }
 
 TEST(WellGeometry, FindsEnvelopesAndCentroids) {
-    const struct {
-        const char* subWells;
-        const char* envelope; ///< of row 2, column 3
-        const char* centroid;
-    } rows[] = {
-        {"WELLDIAMETER 6\r\nRIMWIDTH 0.5", "(23.5, 14.5, 0.0)(30.5, 21.5, 0.0)",
-         "(27.0, 18.0, 0.0)"},
-        {"WELLDIAMETER 6\r\nRIMHEIGHT 2\r\nRIMWIDTH 0.5", "(23.5, 14.5, 0.0)(30.5, 21.5, 0.0)",
-         "(27.0, 18.0, 0.0)"},
-        {"WELL A\r\nWELLDIAMETER 1\r\nWELL B\r\nWELLDIAMETER 6\r\nRIMHEIGHT 2\r\nRIMWIDTH 0.5\r\n"
-         "XOFFSET 1\r\nRIMCENTERX 1\r\nRIMCENTERY -1",
-         "(25.5, 12.0, 0.0)(32.5, 22.0, 0.0)", "(29.0, 17.0, 0.0)"},
-        {"WELL A\r\nWELLDIAMETER 2\r\nXOFFSET -4\r\nWELL B\r\nWELLDIAMETER 2\r\nXOFFSET 4",
-         "(22.0, 17.0, 0.0)(32.0, 19.0, 0.0)", "(27.0, 18.0, 0.0)"},
-    };
-    for (const auto& row : rows) {
-        const cmPlate plate =
-            Read((String("PLATE P\r\nXPITCH 9\r\nYPITCH 9\r\n") + row.subWells).c_str());
+    const auto finds = [](const String& subWells, const char* envelope, const char* centroid) {
+        const cmPlate plate = Read("PLATE P\r\nXPITCH 9\r\nYPITCH 9\r\n" + subWells);
         Coordinate low;
         Coordinate high;
         plate.WellEnvelope(2, 3, low, high);
-        EXPECT_EQ(low.AsText() + high.AsText(), row.envelope) << row.subWells;
-        EXPECT_EQ(plate.WellCentroid(2, 3).AsText(), row.centroid) << row.subWells;
-    }
+        EXPECT_EQ(low.AsText() + high.AsText(), envelope) << subWells;
+        EXPECT_EQ(plate.WellCentroid(2, 3).AsText(), centroid) << subWells;
+    };
+    finds("WELLDIAMETER 6\r\nRIMWIDTH 0.5", "(23.5, 14.5, 0.0)(30.5, 21.5, 0.0)",
+          "(27.0, 18.0, 0.0)");
+    finds("WELLDIAMETER 6\r\nRIMHEIGHT 2\r\nRIMWIDTH 0.5", "(23.5, 14.5, 0.0)(30.5, 21.5, 0.0)",
+          "(27.0, 18.0, 0.0)");
+    finds("WELL A\r\nWELLDIAMETER 1\r\nWELL B\r\nWELLDIAMETER 6\r\nRIMHEIGHT 2\r\n"
+          "RIMWIDTH 0.5\r\nXOFFSET 1\r\nRIMCENTERX 1\r\nRIMCENTERY -1",
+          "(25.5, 12.0, 0.0)(32.5, 22.0, 0.0)", "(29.0, 17.0, 0.0)");
+    finds("WELL A\r\nWELLDIAMETER 2\r\nXOFFSET -4\r\nWELL B\r\nWELLDIAMETER 2\r\nXOFFSET 4",
+          "(22.0, 17.0, 0.0)(32.0, 19.0, 0.0)", "(27.0, 18.0, 0.0)");
     EXPECT_EQ(NumberRaisedBy([] { cmPlate().WellCentroid(0, 0); }), 9);
 }
 
 TEST(WellGeometry, FourTurnsGiveTheSamePlate) {
     for (const char* const labels :
          {"ROWLABEL A\r\nCOLLABEL 1", "ROWLABEL 1\r\nCOLLABEL A", "ROWLABEL H\r\nCOLLABEL 12"}) {
-        cmPlate plate = Read((String("PLATE P\r\nROWS 8\r\nCOLS 12\r\nXPITCH 9\r\nYPITCH 8\r\n"
-                                     "XOVERALL 128\r\nYOVERALL 85\r\nWELL D\r\nXOFFSET -2\r\n"
-                                     "YOFFSET 3\r\nRIMCENTERX 1\r\nRIMHEIGHT 2\r\nRIMWIDTH 1\r\n") +
-                              labels)
-                                 .c_str());
+        cmPlate plate = Read("PLATE P\r\nROWS 8\r\nCOLS 12\r\nXPITCH 9\r\nYPITCH 8\r\n"
+                             "XOVERALL 128\r\nYOVERALL 85\r\nWELL D\r\nXOFFSET -2\r\n"
+                             "YOFFSET 3\r\nRIMCENTERX 1\r\nRIMHEIGHT 2\r\nRIMWIDTH 1\r\n" +
+                             String(labels));
         const String before = plate.AsText() + plate.WellLegend(7, 11);
         for (int turn = 0; turn < 4; ++turn)
             plate.Rotate90();

@@ -32,24 +32,19 @@ TEST_F(RegistryFunctions, ReadsEachTypeOrFallsBack) {
     using namespace std::string_literals;
     EXPECT_EQ(Read("no key"), "fallback");
     EXPECT_EQ(type, -1);
-    const struct {
-        const char* name;
-        Long type;
-        String data;
-        const char* text;
-    } rows[] = {{"plain", kRegistryString, "abc", "abc"},
-                {"ended", kRegistryString, "abc\0def\0"s, "abc"},
-                {"empty", kRegistryString, "", ""},
-                {"expand", kRegistryExpandString, "%HOME%\0"s, "%HOME%"},
-                {"number", kRegistryNumber, "\x1F\0\0\0"s, "&H0000001F"},
-                {"negative", kRegistryNumber, "\xFE\xFF\xFF\xFF", "&HFFFFFFFE"},
-                {"short number", kRegistryNumber, "\x01", "&H00000001"},
-                {"binary", kRegistryBinary, "abc", ""}};
-    for (const auto& row : rows) {
-        Put(row.name, row.type, row.data);
-        EXPECT_EQ(Read(row.name), row.text) << row.name;
-        EXPECT_EQ(type, row.type) << row.name;
-    }
+    const auto reads = [&](const char* name, Long valueType, const String& data, const char* text) {
+        Put(name, valueType, data);
+        EXPECT_EQ(Read(name), text) << name;
+        EXPECT_EQ(type, valueType) << name;
+    };
+    reads("plain", kRegistryString, "abc", "abc");
+    reads("ended", kRegistryString, "abc\0def\0"s, "abc");
+    reads("empty", kRegistryString, "", "");
+    reads("expand", kRegistryExpandString, "%HOME%\0"s, "%HOME%");
+    reads("number", kRegistryNumber, "\x1F\0\0\0"s, "&H0000001F");
+    reads("negative", kRegistryNumber, "\xFE\xFF\xFF\xFF", "&HFFFFFFFE");
+    reads("short number", kRegistryNumber, "\x01", "&H00000001");
+    reads("binary", kRegistryBinary, "abc", "");
     EXPECT_EQ(Read("no value"), "fallback");
     Put("longest", kRegistryString, String(255, 'x'));
     EXPECT_EQ(Read("longest"), String(255, 'x'));
@@ -128,11 +123,7 @@ TEST_F(RegistryFunctions, LeavesTheListsAloneWhenThereIsNothing) {
 TEST(RegistryText, CutsAndCopiesBytes) {
     EXPECT_EQ(TrimNull(std::string_view("ab\0c\0", 5)), "ab");
     EXPECT_EQ(TrimNull("ab"), "ab");
-    EXPECT_EQ(BytesToText(std::string_view("\0\xFF"
-                                           "c",
-                                           3),
-                          2),
-              String("\0\xFF", 2));
+    EXPECT_EQ(BytesToText(std::string_view("\0\xFFz", 3), 2), String("\0\xFF", 2));
     EXPECT_EQ(BytesToText("abc", -1), "");
     EXPECT_EQ(NumberRaisedBy([] { BytesToText("abc", 4); }), 9);
 }

@@ -33,22 +33,24 @@ class PairList : public testing::Test {
 };
 
 TEST_F(PairList, PlacesWhatIsAdded) {
-    const struct {
-        const char* name;
-        Integer afterIndex;
-        const char* content;
-    } rows[] = {{"d", 0, "a=1 b=1 c=1 d=2"},  {"d", -1, "d=2 a=1 b=1 c=1"},
-                {"d", -9, "d=2 a=1 b=1 c=1"}, {"d", 2, "a=1 b=1 d=2 c=1"},
-                {"d", 3, "a=1 b=1 c=1 d=2"},  {"B", 0, "a=1 c=1 B=2"},
-                {"B", -1, "B=2 a=1 c=1"},     {"A", 2, "b=1 c=1 A=2"}};
-    for (const auto& row : rows) {
+    const auto places = [&](const char* name, Integer afterIndex, const char* content) {
         TStringPairList each;
         each.Copy(list);
-        const auto pair = NewPair(row.name, "2");
-        EXPECT_EQ(each.Add(pair, row.afterIndex), pair);
-        EXPECT_EQ(Content(each), row.content) << row.name << " after " << row.afterIndex;
+        const auto pair = NewPair(name, "2");
+        EXPECT_EQ(each.Add(pair, afterIndex), pair);
+        EXPECT_EQ(Content(each), content) << name << " after " << afterIndex;
         EXPECT_TRUE(each.DataChanged);
-    }
+    };
+    places("d", 0, "a=1 b=1 c=1 d=2");
+    places("d", -1, "d=2 a=1 b=1 c=1");
+    places("d", -9, "d=2 a=1 b=1 c=1");
+    places("d", 2, "a=1 b=1 d=2 c=1");
+    places("d", 3, "a=1 b=1 c=1 d=2");
+    places("B", 0, "a=1 c=1 B=2");
+    places("B", -1, "B=2 a=1 c=1");
+    places("A", 2, "b=1 c=1 A=2");
+    list.Add(*list.begin()); // a pair that it holds
+    EXPECT_EQ(Content(list), "b=1 c=1 a=1");
 }
 
 TEST_F(PairList, ShowsWhyNothingWasAdded) {
@@ -76,26 +78,18 @@ TEST_F(PairList, ShowsWhyNothingWasAdded) {
     EXPECT_FALSE(list.DataChanged);
 }
 
-TEST_F(PairList, AddsAPairAgainThatItHolds) {
-    list.Add(*list.begin());
-    EXPECT_EQ(Content(list), "b=1 c=1 a=1");
-}
-
 TEST_F(PairList, LooksUpByPositionAndName) {
     EXPECT_EQ(list.Pair(Integer{2})->Name(), "b");
     EXPECT_EQ(list.Pair("C"), list.Pair(3));
     list.Pair("a")->Value("7");
     EXPECT_EQ(list.Value("A"), "7");
-    EXPECT_EQ(NumberRaisedBy([&] { list.Pair("d"); }), 5);
-    EXPECT_EQ(NumberRaisedBy([&] { list.Pair(0); }), 9);
-    EXPECT_EQ(NumberRaisedBy([&] { list.Pair(4); }), 9);
-    EXPECT_EQ(NumberRaisedBy([&] { list.Value("d"); }), 5);
-
-    list.ErrorOnFail = false;
-    EXPECT_EQ(list.Pair("d"), nullptr);
-    EXPECT_EQ(list.Pair(0), nullptr);
-    EXPECT_EQ(list.Pair(4), nullptr);
-    EXPECT_EQ(list.Value("d"), "\x1B\x1B");
+    for (const Boolean errors : {true, false}) {
+        list.ErrorOnFail = errors;
+        EXPECT_EQ(NumberRaisedBy([&] { EXPECT_EQ(list.Pair("d"), nullptr); }), errors ? 5 : 0);
+        EXPECT_EQ(NumberRaisedBy([&] { EXPECT_EQ(list.Pair(0), nullptr); }), errors ? 9 : 0);
+        EXPECT_EQ(NumberRaisedBy([&] { EXPECT_EQ(list.Pair(4), nullptr); }), errors ? 9 : 0);
+        EXPECT_EQ(NumberRaisedBy([&] { EXPECT_EQ(list.Value("d"), "\x1B\x1B"); }), errors ? 5 : 0);
+    }
 }
 
 TEST_F(PairList, AssignsValues) {

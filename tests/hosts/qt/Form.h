@@ -66,26 +66,20 @@ struct Form {
 
   private:
     void WriteDownSignals() {
-        const auto note = [this](const QString& text) { signals_.append(text); };
-        QObject::connect(&widget, &PlateWidget::clicked, [note] { note("clicked"); });
-        QObject::connect(&widget, &PlateWidget::doubleClicked, [note] { note("doubleClicked"); });
-        QObject::connect(&widget, &PlateWidget::wellSelected,
-                         [note](int well) { note(QString("wellSelected %1").arg(well)); });
-        QObject::connect(&widget, &PlateWidget::multipleWellsSelected,
-                         [note] { note("multipleWellsSelected"); });
-        QObject::connect(
-            &widget, &PlateWidget::mousePressed, [note](int button, int shift, float x, float y) {
-                note(QString("mousePressed %1 %2 %3 %4").arg(button).arg(shift).arg(x).arg(y));
+        const auto note = [this](auto signal, const char* name) {
+            QObject::connect(&widget, signal, [this, name](auto... arguments) {
+                QString text = name;
+                ((text += QString(" %1").arg(arguments)), ...);
+                signals_.append(text);
             });
-        QObject::connect(
-            &widget, &PlateWidget::mouseReleased, [note](int button, int shift, float x, float y) {
-                note(QString("mouseReleased %1 %2 %3 %4").arg(button).arg(shift).arg(x).arg(y));
-            });
-        QObject::connect(
-            &widget, &PlateWidget::dragMoved, [note](int button, int shift, int columns, int rows) {
-                note(
-                    QString("dragMoved %1 %2 %3 %4").arg(button).arg(shift).arg(columns).arg(rows));
-            });
+        };
+        note(&PlateWidget::clicked, "clicked");
+        note(&PlateWidget::doubleClicked, "doubleClicked");
+        note(&PlateWidget::wellSelected, "wellSelected");
+        note(&PlateWidget::multipleWellsSelected, "multipleWellsSelected");
+        note(&PlateWidget::mousePressed, "mousePressed");
+        note(&PlateWidget::mouseReleased, "mouseReleased");
+        note(&PlateWidget::dragMoved, "dragMoved");
     }
 
     QStringList signals_;

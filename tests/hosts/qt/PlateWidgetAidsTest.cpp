@@ -10,11 +10,15 @@ namespace {
 using Aid = PlateWidget::Aid;
 
 /// The selected wells by number.
-std::vector<Integer> Selected(const Plate& plate) {
-    std::vector<Integer> wells;
-    for (Integer well = 0; well < plate.TotalWells(); ++well)
-        if (plate.IsSelected(well)) wells.push_back(well);
+String Selected(const Form& form) {
+    String wells;
+    for (Integer well = 0; well < form.widget.plate().TotalWells(); ++well)
+        if (form.widget.plate().IsSelected(well)) wells += " " + std::to_string(well);
     return wells;
+}
+
+void Click(Form& form, QPoint place, Qt::KeyboardModifiers keys = {}) {
+    QTest::mouseClick(&form.widget, Qt::LeftButton, keys, place);
 }
 
 /// The middle of the legend of row B or column 2.
@@ -36,38 +40,38 @@ QString ToolTipAt(Form& form, int well) {
 
 TEST(PlateWidgetAids, AreOffAtFirst) {
     Form form;
-    QTest::mouseClick(&form.widget, Qt::LeftButton, {}, form.At(0));
-    QTest::mouseClick(&form.widget, Qt::LeftButton, Qt::ShiftModifier, form.At(8));
-    EXPECT_EQ(Selected(form.widget.plate()), (std::vector<Integer>{8}));
+    Click(form, form.At(0));
+    Click(form, form.At(8), Qt::ShiftModifier);
+    EXPECT_EQ(Selected(form), " 8");
     form.Signals();
-    QTest::mouseClick(&form.widget, Qt::LeftButton, {}, LegendPlace(form, "B"));
+    Click(form, LegendPlace(form, "B"));
     EXPECT_EQ(form.Signals().substr(0, 12), "mousePressed");
     QTest::keyClick(&form.widget, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&form.widget, Qt::Key_Escape);
-    EXPECT_EQ(Selected(form.widget.plate()), (std::vector<Integer>{8}));
+    EXPECT_EQ(Selected(form), " 8");
 }
 
 TEST(PlateWidgetAids, ShiftExtendsFromTheWellThatWasCurrent) {
     Form form;
     form.widget.setAid(Aid::ShiftExtendsSelection);
     Plate& plate = form.widget.plate();
-    QTest::mouseClick(&form.widget, Qt::LeftButton, {}, form.At(1));
+    Click(form, form.At(1));
     form.Signals();
     const QSignalSpy aided(&form.widget, &PlateWidget::selectionAided);
-    QTest::mouseClick(&form.widget, Qt::LeftButton, Qt::ShiftModifier, form.At(8));
-    EXPECT_EQ(Selected(plate), (std::vector<Integer>{1, 2, 7, 8}));
-    QTest::mouseClick(&form.widget, Qt::LeftButton, Qt::ShiftModifier, form.At(0));
-    EXPECT_EQ(Selected(plate), (std::vector<Integer>{0, 1}));
+    Click(form, form.At(8), Qt::ShiftModifier);
+    EXPECT_EQ(Selected(form), " 1 2 7 8");
+    Click(form, form.At(0), Qt::ShiftModifier);
+    EXPECT_EQ(Selected(form), " 0 1");
     EXPECT_EQ(plate.NSelected(), 2);
     EXPECT_EQ(plate.CurrentWell(), 0);
     EXPECT_EQ(aided.size(), 2);
     EXPECT_EQ(form.Signals(), "") << "the control saw nothing of it";
 
     QTest::keyClick(&form.widget, Qt::Key_Down, Qt::ShiftModifier);
-    EXPECT_EQ(Selected(plate), (std::vector<Integer>{0, 1, 6, 7}));
+    EXPECT_EQ(Selected(form), " 0 1 6 7");
     QTest::keyClick(&form.widget, Qt::Key_Right);
     QTest::keyClick(&form.widget, Qt::Key_Right, Qt::ShiftModifier | Qt::ControlModifier);
-    EXPECT_EQ(Selected(plate), (std::vector<Integer>{0, 1, 6, 7, 8}));
+    EXPECT_EQ(Selected(form), " 0 1 6 7 8");
 }
 
 TEST(PlateWidgetAids, KeysAndLegendsSelect) {
@@ -78,15 +82,15 @@ TEST(PlateWidgetAids, KeysAndLegendsSelect) {
     QTest::keyClick(&form.widget, Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(plate.NSelected(), 48);
     QTest::keyClick(&form.widget, Qt::Key_Escape);
-    EXPECT_EQ(Selected(plate), std::vector<Integer>{});
+    EXPECT_EQ(Selected(form), "");
     EXPECT_EQ(plate.NSelected(), 0);
     EXPECT_TRUE(form.widget.multipleSelect());
 
-    QTest::mouseClick(&form.widget, Qt::LeftButton, {}, LegendPlace(form, "2"));
-    EXPECT_EQ(Selected(plate), (std::vector<Integer>{1, 7, 13, 19}));
-    QTest::mouseClick(&form.widget, Qt::LeftButton, {}, LegendPlace(form, "D"));
-    EXPECT_EQ(Selected(plate), (std::vector<Integer>{18, 19, 20, 21, 22, 23}));
-    QTest::mouseClick(&form.widget, Qt::LeftButton, Qt::ControlModifier, LegendPlace(form, "1"));
+    Click(form, LegendPlace(form, "2"));
+    EXPECT_EQ(Selected(form), " 1 7 13 19");
+    Click(form, LegendPlace(form, "D"));
+    EXPECT_EQ(Selected(form), " 18 19 20 21 22 23");
+    Click(form, LegendPlace(form, "1"), Qt::ControlModifier);
     EXPECT_EQ(plate.NSelected(), 9);
 }
 
@@ -95,12 +99,12 @@ TEST(PlateWidgetAids, NeedMultipleSelectToSelectSeveral) {
     form.widget.setAids(Aid::ShiftExtendsSelection | Aid::CtrlASelectsAll |
                         Aid::LegendClickSelects);
     form.widget.setMultipleSelect(false);
-    QTest::mouseClick(&form.widget, Qt::LeftButton, {}, form.At(1));
-    QTest::mouseClick(&form.widget, Qt::LeftButton, Qt::ShiftModifier, form.At(8));
+    Click(form, form.At(1));
+    Click(form, form.At(8), Qt::ShiftModifier);
     QTest::keyClick(&form.widget, Qt::Key_Right, Qt::ShiftModifier);
     QTest::keyClick(&form.widget, Qt::Key_A, Qt::ControlModifier);
-    QTest::mouseClick(&form.widget, Qt::LeftButton, {}, LegendPlace(form, "2"));
-    EXPECT_EQ(Selected(form.widget.plate()), (std::vector<Integer>{8}));
+    Click(form, LegendPlace(form, "2"));
+    EXPECT_EQ(Selected(form), " 8");
 }
 
 TEST(PlateWidgetAids, AreHarmlessOnAPlateWithoutWells) {

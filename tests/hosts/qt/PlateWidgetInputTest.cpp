@@ -80,32 +80,22 @@ TEST(PlateWidgetInput, AGestureEndsWhenItsReleaseWasLost) {
 
 TEST(PlateWidgetInput, KeysMoveTheCurrentWell) {
     Form form;
-    const Plate& plate = form.widget.plate();
     QTest::mouseClick(&form.widget, Qt::LeftButton, {}, form.At(8));
-    struct {
-        int key;
-        char typed;
-        Integer well;
-    } const steps[] = {
-        {Qt::Key_Right, 0, 9},
-        {Qt::Key_Down, 0, 15},
-        {Qt::Key_Left, 0, 14},
-        {Qt::Key_Up, 0, 8},
-        {0, '\'', 9},
-        {0, '(', 15},
-        {0, '%', 14},
-        {0, '&', 8},
-        {Qt::Key_5, 0, 8},
-        {Qt::Key_Space, 0, 8},
-        {Qt::Key_Control, 0, 8},
+    const auto moves = [&](auto key, Integer well) {
+        QTest::keyClick(&form.widget, key);
+        EXPECT_EQ(form.widget.plate().CurrentWell(), well) << "key " << key;
     };
-    for (const auto& step : steps) {
-        if (step.typed)
-            QTest::keyClick(&form.widget, step.typed);
-        else
-            QTest::keyClick(&form.widget, static_cast<Qt::Key>(step.key));
-        EXPECT_EQ(plate.CurrentWell(), step.well) << "key " << step.key << step.typed;
-    }
+    moves(Qt::Key_Right, 9);
+    moves(Qt::Key_Down, 15);
+    moves(Qt::Key_Left, 14);
+    moves(Qt::Key_Up, 8);
+    moves('\'', 9);
+    moves('(', 15);
+    moves('%', 14);
+    moves('&', 8);
+    moves(Qt::Key_5, 8);
+    moves(Qt::Key_Space, 8);
+    moves(Qt::Key_Control, 8);
 }
 
 TEST(PlateWidgetInput, APressTakesTheFocusUnlessTheMouseIsDisabled) {

@@ -88,28 +88,20 @@ TEST(PlateWidget, ANewOneLoadsTheFirstPlateOnceShown) {
 
 TEST(PlateWidget, ColoursArePropertiesAndAnInvalidOneBringsBackTheFirst) {
     Form form;
-    struct {
-        const char* name;
-        Long (*read)(const Plate&);
-        Long first;
-    } const colours[] = {
-        {"defaultRimColor", [](const Plate& plate) { return plate.DefaultRimColor(); }, 0xE0E0E0},
-        {"defaultWellColor", [](const Plate& plate) { return plate.DefaultWellColor(); }, 0xE0E0E0},
-        {"defaultSelectColor", [](const Plate& plate) { return plate.DefaultSelectColor; },
-         0x808080},
-        {"definedWellColor", [](const Plate& plate) { return plate.DefinedWellColor; }, 0},
-        {"errorWellColor", [](const Plate& plate) { return plate.ErrorWellColor; }, 0},
-        {"selectedColor", [](const Plate& plate) { return plate.SelectedColor; }, kButtonShadow},
-        {"deselectedColor", [](const Plate& plate) { return plate.DeselectedColor; }, kButtonFace},
+    const auto colour = [&](const char* name, Long first, auto read) {
+        EXPECT_TRUE(form.widget.setProperty(name, QColor(1, 2, 3))) << name;
+        EXPECT_EQ(read(form.widget.plate()), 0x030201) << name;
+        EXPECT_EQ(form.widget.property(name), QColor(1, 2, 3)) << name;
+        form.widget.setProperty(name, QColor());
+        EXPECT_EQ(read(form.widget.plate()), first) << name;
     };
-    for (const auto& colour : colours) {
-        SCOPED_TRACE(colour.name);
-        EXPECT_TRUE(form.widget.setProperty(colour.name, QColor(1, 2, 3)));
-        EXPECT_EQ(colour.read(form.widget.plate()), 0x030201);
-        EXPECT_EQ(form.widget.property(colour.name), QColor(1, 2, 3));
-        form.widget.setProperty(colour.name, QColor());
-        EXPECT_EQ(colour.read(form.widget.plate()), colour.first);
-    }
+    colour("defaultRimColor", 0xE0E0E0, [](Plate& p) { return p.DefaultRimColor(); });
+    colour("defaultWellColor", 0xE0E0E0, [](Plate& p) { return p.DefaultWellColor(); });
+    colour("defaultSelectColor", 0x808080, [](Plate& p) { return p.DefaultSelectColor; });
+    colour("definedWellColor", 0, [](Plate& p) { return p.DefinedWellColor; });
+    colour("errorWellColor", 0, [](Plate& p) { return p.ErrorWellColor; });
+    colour("selectedColor", kButtonShadow, [](Plate& p) { return p.SelectedColor; });
+    colour("deselectedColor", kButtonFace, [](Plate& p) { return p.DeselectedColor; });
 }
 
 } // namespace zorvane
