@@ -18,7 +18,7 @@ constexpr int kFailed = 1;
 struct Options {
     QString picture;
     QString output;
-    QString library;
+    QString libraryFile;
 };
 
 Options ReadOptions(const QCoreApplication& app) {
@@ -41,13 +41,13 @@ Options ReadOptions(const QCoreApplication& app) {
     Options options{parser.value(QStringLiteral("picture")), parser.value(QStringLiteral("output")),
                     files.value(0)};
     const bool incomplete = parser.isSet(QStringLiteral("picture")) &&
-                            (options.output.isEmpty() || options.library.isEmpty());
+                            (options.output.isEmpty() || options.libraryFile.isEmpty());
     if (incomplete || files.size() > 1) parser.showHelp(kFailed);
     return options;
 }
 
 int Draw(const Options& options) {
-    const QString failure = WritePicture(options.library, options.picture, options.output);
+    const QString failure = WritePicture(options.libraryFile, options.picture, options.output);
     if (failure.isEmpty()) return 0;
     QTextStream(stderr) << "plate-viewer: " << failure << "\n";
     return kFailed;
@@ -87,6 +87,6 @@ int main(int argc, char** argv) {
     if (!options.picture.isEmpty()) return Draw(options);
     MainWindow window;
     window.show();
-    if (!options.library.isEmpty()) window.OpenLibrary(options.library);
+    if (!options.libraryFile.isEmpty()) window.OpenLibrary(options.libraryFile);
     return QApplication::exec();
 }
