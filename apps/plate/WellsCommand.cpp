@@ -33,9 +33,10 @@ std::vector<Cell> WellRow(const cmPlate& plate, Integer row, Integer col) {
 
 Table TableOf(const cmPlate& plate) {
     Table table{{"well", "row", "column", "x", "y", "xmin", "ymin", "xmax", "ymax"}, {}};
-    for (Integer row = 0; row < plate.Rows(); ++row)
+    for (Integer row = 0; row < plate.Rows(); ++row) {
         for (Integer col = 0; col < plate.Cols(); ++col)
             table.rows.push_back(WellRow(plate, row, col));
+    }
     return table;
 }
 

@@ -13,14 +13,8 @@ namespace {
 using namespace zorvane;
 
 int RunChosen(const std::vector<Command>& commands) {
-    try {
-        for (const Command& command : commands)
-            if (command.options->parsed()) return command.run();
-    } catch (const RuntimeError& error) {
-        std::cerr << "plate: " << PrintableUtf8(error.Description()) << "\n";
-    } catch (const std::exception& error) {
-        std::cerr << "plate: " << error.what() << "\n";
-    }
+    for (const Command& command : commands)
+        if (command.options->parsed()) return command.run();
     return kFailed;
 }
 
@@ -46,5 +40,12 @@ int Main(int argc, char** argv) {
 int main(int argc, char** argv) {
     ToolProcess process;
     const InstalledProcess installed(process);
-    return Main(argc, argv);
+    try {
+        return Main(argc, argv);
+    } catch (const RuntimeError& error) {
+        std::cerr << "plate: " << PrintableUtf8(error.Description()) << "\n";
+    } catch (const std::exception& error) {
+        std::cerr << "plate: " << error.what() << "\n";
+    }
+    return kFailed;
 }
