@@ -40,9 +40,10 @@ String NumberedCaption(const String& annotation, Integer number) {
 void CheckBlock(const PlateState& state) {
     const Integer right = Checked(state.ArrayX) + state.ArrayWidth;
     const Integer bottom = Checked(state.ArrayY) + state.ArrayHeight;
-    if (bottom > state.Rows || right > state.Cols || state.ArrayX < 0 || state.ArrayY < 0)
+    if (bottom > state.Rows || right > state.Cols || state.ArrayX < 0 || state.ArrayY < 0) {
         throw RuntimeError(kOutsidePlate, "Zorvane::SelectBlock",
                            "Attempt to select wells outside <" + state.PlateName + "> plate");
+    }
 }
 
 void SelectRecordedBlock(ControlParts parts, Long color) {

@@ -173,11 +173,12 @@ class Layout {
 
         Label& text = surface_.WellText[well];
         text.visible = drawing.textShown;
-        if (drawing.textShown)
+        if (drawing.textShown) {
             text.box = {x - static_cast<Single>(drawing.textWidth) / 2,
                         y - static_cast<Single>(drawing.textHeight) / 2,
                         static_cast<Single>(drawing.textWidth),
                         static_cast<Single>(drawing.textHeight)};
+        }
 
         if (fullReset_) {
             rim.fill = state_.DefaultRimColor;

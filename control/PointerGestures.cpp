@@ -59,10 +59,11 @@ void DrawDragOutline(ControlParts parts, Single x, Single y) {
         const Shape& rim = RimOf(parts.surface, i);
         const Rect box = rim.box.Moved(dx, dy);
         // Every kind but the circle is outlined as a rectangle, ovals included.
-        if (rim.kind == ShapeKind::Circle)
+        if (rim.kind == ShapeKind::Circle) {
             parts.focus.DrawEllipse(box.left, box.top, box.Right(), box.Bottom());
-        else
+        } else {
             parts.focus.DrawRectangle(box.left, box.top, box.Right(), box.Bottom());
+        }
     }
 }
 
@@ -153,10 +154,11 @@ void PressOnPlate(ControlParts parts, Integer button, Integer shift, Single x, S
 }
 
 void MoveOverPlate(ControlParts parts, Integer buttons, Single x, Single y) {
-    if ((buttons & kLeftButton) != 0)
+    if ((buttons & kLeftButton) != 0) {
         ContinueGesture(parts, x, y);
-    else
+    } else {
         Hover(parts, x, y);
+    }
 }
 
 void ReleaseOnPlate(ControlParts parts, Integer button, Integer shift, Single x, Single y) {
@@ -164,19 +166,21 @@ void ReleaseOnPlate(ControlParts parts, Integer button, Integer shift, Single x,
     const GestureEnd end(state);
     const Integer columns = WholePitches(state.DragAnchorX, x, state.ColumnPitch);
     const Integer rows = WholePitches(state.DragAnchorY, y, state.RowPitch);
-    if (state.AreaSelect)
+    if (state.AreaSelect) {
         SelectArea(parts, columns, rows);
-    else if (state.Dragging)
+    } else if (state.Dragging) {
         EndDrag(parts, button, shift, x, y, columns, rows);
-    else if (parts.surface.cmdData.enabled)
+    } else if (parts.surface.cmdData.enabled) {
         parts.events.Raise([&](PlateObserver& host) { host.MouseUp(button, shift, x, y); });
+    }
 }
 
 void PressKey(ControlParts parts, Integer keyCode, Integer shift) {
-    if (!parts.state.Dragging)
+    if (!parts.state.Dragging) {
         MoveByArrow(parts.state, keyCode);
-    else if ((shift & kCtrlKey) != 0)
+    } else if ((shift & kCtrlKey) != 0) {
         SetPointer(parts, PointerShape::Custom);
+    }
 }
 
 void ReleaseKey(ControlParts parts, Integer shift) {

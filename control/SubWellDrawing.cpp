@@ -29,10 +29,11 @@ void SizeWellAndRim(SubWellDrawing& drawing, const WellDetails& well, const Draw
     Integer rimY = SnapToPixels((well.WellSizeY() / 2.0 + well.RimHeight()) * scale, pixel);
 
     if (rimX < Checked(half) + kRimMargin) {
-        if (rimX < kSmallHalfSize)
+        if (rimX < kSmallHalfSize) {
             rimX = Checked(half) + kRimMargin;
-        else
+        } else {
             half = Checked(rimX) - kRimMargin;
+        }
     }
     if (rimY < Checked(half) + kRimMargin) rimY = Checked(half) + kRimMargin;
 

@@ -84,9 +84,10 @@ void SetWellIndex(PlateState& state, Integer wellIndex) {
 
 void SetSubWell(PlateState& state, const String& name) {
     Integer position = name.empty() ? Integer{1} : PositionOfSubWell(state, name);
-    if (position == 0)
+    if (position == 0) {
         position = EqualNoCase(SubWellName(state), kDefaultSubWell) ? Integer{1}
                                                                     : OnePastLastSubWell(state);
+    }
     state.WellIndex = position;
     Readdress(state);
 }

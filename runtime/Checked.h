@@ -42,6 +42,8 @@ class CheckedNumber {
     friend constexpr CheckedNumber operator%(CheckedNumber a, CheckedNumber b) {
         return a.Wide() % b.Divisor();
     }
+    // The check takes the 0 in the comparison that the compiler writes for a null pointer.
+    // NOLINTNEXTLINE(modernize-use-nullptr)
     friend constexpr auto operator<=>(CheckedNumber, CheckedNumber) = default;
 
   private:

@@ -52,9 +52,10 @@ class Header {
         const auto* const known =
             std::find_if(kNames.begin(), kNames.end(),
                          [&](const char* candidate) { return EqualNoCase(candidate, name); });
-        if (known == kNames.end())
+        if (known == kNames.end()) {
             FailAt(line_, Count() + 1,
                    "no column is known by " + Quoted(name) + "; there are " + AllNames());
+        }
         const auto column = static_cast<Column>(known - kNames.begin());
         if (Has(column)) FailAt(line_, Count() + 1, "the column is there twice", *known);
         columns_.push_back(column);
@@ -71,9 +72,10 @@ class RowParser {
         : header_(header), names_(names), record_(record) {
         const std::size_t count = record.fields.size();
         if (count > header.Count()) FailAt(record.line, header.Count() + 1, "a field too many");
-        if (count < header.Count())
+        if (count < header.Count()) {
             FailAt(record.line, count + 1, "the line ends before this column",
                    header.NameAt(count));
+        }
     }
 
     WellDataRow Parse() const {
@@ -183,9 +185,10 @@ std::vector<WellDataRow> ParseWellData(std::string_view csv, const WellNames& na
         const RowParser parser(header, names, record);
         rows.push_back(parser.Parse());
         const auto [first, isNew] = lines.emplace(rows.back().wellNo, record.line);
-        if (!isNew)
+        if (!isNew) {
             parser.Fail(Well, names.Full(rows.back().wellNo) + " is on line " +
                                   std::to_string(first->second) + " already");
+        }
     }
     return rows;
 }

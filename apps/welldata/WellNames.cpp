@@ -10,7 +10,7 @@ namespace {
 
 /// Column legends are labels of their own between the row legends of the last two rows.
 String RowLegend(const Plate& plate, Integer row) {
-    const Integer last = plate.Rows - 1;
+    const int last = plate.Rows - 1;
     const int label = row < last ? row + 1 : plate.Rows + plate.Cols;
     return plate.Elements().lblWell[static_cast<std::size_t>(label)].caption;
 }
@@ -51,9 +51,10 @@ WellNames::WellNames(Plate& plate) {
 bool WellNames::IndexLegends() {
     positions_.clear();
     Integer position = 0;
-    for (Integer row = 0; row < Rows(); ++row)
+    for (Integer row = 0; row < Rows(); ++row) {
         for (Integer col = 0; col < Cols(); ++col)
             if (!positions_.emplace(Key(Legend(row, col)), position++).second) return false;
+    }
     return true;
 }
 

@@ -39,7 +39,7 @@ std::optional<GridLine> LegendAt(const Plate& plate, Single x, Single y) {
 String NameOfWell(const Plate& plate, Integer wellNo) {
     const auto row = static_cast<Integer>(wellNo / plate.Cols % plate.Rows);
     const auto col = static_cast<Integer>(wellNo % plate.Cols);
-    const String position = RowLegend(plate, row).caption + ColumnLegend(plate, col).caption;
+    String position = RowLegend(plate, row).caption + ColumnLegend(plate, col).caption;
     const auto subWells = plate.LoadedDefinition().CompoundWell();
     const Long subWell = wellNo / plate.Cols / plate.Rows + 1;
     if (subWells->Count() < 2 || subWell > subWells->Count()) return position;
