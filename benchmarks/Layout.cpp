@@ -18,9 +18,10 @@ String PlateText(int rows, int cols, int subWells) {
                   std::to_string(cols) +
                   "\r\nROWLABEL 1\r\nCOLLABEL 1\r\nXPITCH 2.25\r\nYPITCH 2.25\r\nXOVERALL "
                   "127.76\r\nYOVERALL 85.48\r\nHEIGHT 10\r\n";
-    for (int i = 0; i < subWells; ++i)
+    for (int i = 0; i < subWells; ++i) {
         text += "WELL Drop" + std::to_string(i) + "\r\nXOFFSET " + std::to_string(2 + i) +
                 "\r\nYOFFSET 2\r\nWELLSIZEX 1\r\nWELLSIZEY 1\r\nRIMWIDTH 0.2\r\nRIMHEIGHT 0.2\r\n";
+    }
     return text;
 }
 
@@ -41,7 +42,7 @@ void CountWells(benchmark::State& state, std::int64_t wells) {
 }
 
 void WritingTheElementsOnce(benchmark::State& state) {
-    constexpr std::size_t wells = 3 * 1536;
+    constexpr std::size_t wells = std::size_t{3} * 1536;
     std::vector<unsigned char> elements(wells * (2 * sizeof(Shape) + sizeof(Label)));
     for (auto _ : state) {
         std::memset(elements.data(), 1, elements.size());

@@ -26,9 +26,10 @@ String Definition() {
                   "XPITCH 2.25\r\nYPITCH 2.25\r\nXOVERALL 127.76\r\nYOVERALL 85.48\r\n";
     for (const char* well : {"Drop1\r\nSTYLE ROUND\r\nXOFFSET 12.6\r\nYOFFSET 8.4\r\n",
                              "Drop2\r\nSTYLE CCSHELF\r\nXOFFSET 12.6\r\nYOFFSET 9.4\r\n",
-                             "Reservoir\r\nSTYLE SQUARE\r\nXOFFSET 11.6\r\nYOFFSET 8.9\r\n"})
+                             "Reservoir\r\nSTYLE SQUARE\r\nXOFFSET 11.6\r\nYOFFSET 8.9\r\n"}) {
         text.append("WELL ").append(well).append(
             "WELLSIZEX 0.7\r\nWELLSIZEY 0.7\r\nRIMWIDTH 0.15\r\nRIMHEIGHT 0.15\r\n");
+    }
     return text;
 }
 
@@ -64,10 +65,11 @@ void AddShape(QGraphicsScene& scene, const Shape& shape, const SystemPalette& co
     if (!shape.visible) return;
     const QPen pen = shape.border ? QPen(Qt::black, 1) : QPen(Qt::NoPen);
     const QBrush brush(ToColor(Resolve(shape.fill, colors)));
-    if (shape.kind == ShapeKind::Circle)
+    if (shape.kind == ShapeKind::Circle) {
         scene.addEllipse(ToPixels(CentredSquare(shape.box)), pen, brush);
-    else
+    } else {
         scene.addRect(ToPixels(shape.box), pen, brush);
+    }
 }
 
 void AddLabel(QGraphicsScene& scene, const Label& label, const QFont& font) {
