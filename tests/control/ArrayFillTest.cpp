@@ -10,9 +10,10 @@ class ArrayFillTest : public ControlTest {
     /// The annotations of a block in the reservoirs, row by row.
     String Captions(Integer x, Integer y, Integer width, Integer height) const {
         String captions;
-        for (int row = y; row < y + height; ++row)
+        for (int row = y; row < y + height; ++row) {
             for (int col = x; col < x + width; ++col)
                 captions += plate.WellAnnotation(static_cast<Integer>(96 + row * 12 + col)) + " ";
+        }
         return captions;
     }
 };

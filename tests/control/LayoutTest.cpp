@@ -97,9 +97,10 @@ TEST_F(LegendTest, StandLeftOfTheRowsAndBelowTheColumns) {
 TEST_F(LayoutTest, LaterSubWellsAndColumnLegendsLieBehind) {
     Load(DropOnReservoir(2, 2));
     String order;
-    for (const PaintRun& run : Shown().paintOrder)
+    for (const PaintRun& run : Shown().paintOrder) {
         order += (run.kind == PaintRun::Kind::Wells ? "wells " : "legends ") +
                  std::to_string(run.first) + "+" + std::to_string(run.count) + ", ";
+    }
     EXPECT_EQ(order, "legends 2+2, wells 4+2, wells 6+2, wells 0+2, legends 1+1, wells 2+2, "
                      "legends 4+1, ");
 }

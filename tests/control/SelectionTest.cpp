@@ -16,9 +16,10 @@ TEST_F(SelectionTest, ActionsOnTheSelection) {
         EXPECT_EQ(Selected(), selected);
         EXPECT_EQ(plate.CurrentWell(), 24 + col);
         EXPECT_EQ(plate.Location(), "Drop1, 2, " + std::to_string(col));
-        for (Integer i = 0; i < 96; ++i)
+        for (Integer i = 0; i < 96; ++i) {
             EXPECT_EQ(Shown().WellRim[static_cast<std::size_t>(i)].fill,
                       plate.IsSelected(i) ? plate.DefaultSelectColor : plate.DefaultRimColor());
+        }
     };
     set("single", false, wsSingle, 5, "1: 29");
     set("single among many", true, wsSingle, 5, "1: 29");

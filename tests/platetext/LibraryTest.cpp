@@ -61,10 +61,11 @@ TEST(LibraryIndex, ListsWhatALookUpReads) {
         "WELL d\nPLATE a\n\n ; another\nFOO\nPLATE\n  PLATE B\nROWS 1e9\nPLATE C");
     const LibraryListing listing = ListLibrary(library.Path());
     String text;
-    for (const auto& each : listing.plates)
+    for (const auto& each : listing.plates) {
         text += std::to_string(each.line) + ":" + each.name + " " + std::to_string(each.rows) +
                 "x" + std::to_string(each.cols) + " " + std::to_string(each.subWells) + " [" +
                 each.tags + "]" + (each.found ? " found\n" : "\n");
+    }
     EXPECT_EQ(text, "3:A 8x12 2 [x y] found\n9:a 0x0 0 []\n13: 0x0 0 []\n14:B 0x0 0 []\n");
     EXPECT_EQ(listing.stoppedAtLine, 15);
     EXPECT_EQ(listing.code, 7);

@@ -32,10 +32,11 @@ struct Drawing {
     }
 
     Drawing& Draw(const Figure& f) {
-        if (f.ellipse)
+        if (f.ellipse) {
             overlay.Ellipse(context, f.left, f.top, f.right, f.bottom);
-        else
+        } else {
             overlay.Rectangle(context, f.left, f.top, f.right, f.bottom);
+        }
         return *this;
     }
 
@@ -129,9 +130,10 @@ TEST(InvertingOverlay, TakesAnyCoordinates) {
 /// The picture with its rows as columns.
 Rows Turned(const Rows& picture) {
     Rows turned(picture[0].size());
-    for (const String& row : picture)
+    for (const String& row : picture) {
         for (std::size_t x = 0; x < row.size(); ++x)
             turned[x] += row[x];
+    }
     return turned;
 }
 

@@ -47,9 +47,10 @@ TEST(NumberText, FollowsThePicture) {
         {1e20, "0.00", "100000000000000000000.00"},
         {1e-300, "0.000", "0.000"},
     };
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         EXPECT_EQ(FormatPicture(row.value, row.picture), row.text)
             << row.value << " as " << row.picture;
+    }
 }
 
 TEST(NumberText, RefusesWhatIsNoPictureOrNoNumber) {

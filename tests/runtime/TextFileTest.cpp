@@ -56,11 +56,12 @@ TEST(TextFile, CutsTheSameLinesWhereverABlockEnds) {
 
 TEST(TextFile, GoesBackToEveryPosition) {
     String bytes;
-    for (int i = 0; bytes.size() < 3 * kBlock; ++i)
+    for (int i = 0; bytes.size() < 3 * kBlock; ++i) {
         bytes += String(static_cast<std::size_t>(i * 37 % 1000), 'x') + std::to_string(i) +
                  (i % 3 == 0   ? "\r\n"
                   : i % 3 == 1 ? "\n"
                                : "\r");
+    }
     const TempFile file(bytes);
     TextFile text;
     text.OpenInput(file.Path());

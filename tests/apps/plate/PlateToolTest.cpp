@@ -101,10 +101,11 @@ TEST(PlateTool, AnswersWithExitCodeOutputAndMessage) {
         const String expected = each.out ? each.out : "";
         EXPECT_EQ(run.out.substr(0, each.out ? expected.size() : run.out.npos), expected)
             << each.arguments;
-        if (each.err)
+        if (each.err) {
             EXPECT_EQ(run.err, each.err) << each.arguments;
-        else
+        } else {
             EXPECT_NE(run.err, "") << each.arguments;
+        }
     }
 }
 

@@ -15,12 +15,14 @@ TEST(Walk, PreviewsWhatAnArrayFillWrites) {
         host.plate.SetArray(1, 1, 4, 3, "Drop1", order);
         host.plate.FillArray(-1, "#");
         const Walk walk{static_cast<ArrayFillOrder>(order), 4, 3};
-        for (int row = 0; row < 3; ++row)
-            for (int column = 0; column < 4; ++column)
+        for (int row = 0; row < 3; ++row) {
+            for (int column = 0; column < 4; ++column) {
                 EXPECT_EQ(
                     std::to_string(walk.NumberAt(row, column)),
                     host.plate.WellAnnotation(static_cast<Integer>((row + 1) * 6 + column + 1)))
                     << "order " << order << ", row " << row << ", column " << column;
+            }
+        }
     }
 }
 

@@ -12,9 +12,10 @@ QImage PaintedInPieces(PlateWidget& widget, const QImage& like) {
     image.setDevicePixelRatio(like.devicePixelRatio());
     image.fill(Qt::transparent);
     constexpr int kPiece = 36; // falls on whole device pixels at every scale under test
-    for (int y = 0; y < widget.height(); y += kPiece)
+    for (int y = 0; y < widget.height(); y += kPiece) {
         for (int x = 0; x < widget.width(); x += kPiece)
             widget.render(&image, {x, y}, QRegion(x, y, kPiece, kPiece));
+    }
     return image;
 }
 

@@ -31,9 +31,10 @@ QImage Painted(double ratio, Paint paint) {
 /// The smallest rectangle that holds every pixel which is not white.
 QRect Extent(const QImage& image) {
     QRect extent;
-    for (int y = 0; y < image.height(); ++y)
+    for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x)
             if (image.pixel(x, y) != kWhitePixel) extent |= QRect(x, y, 1, 1);
+    }
     return extent;
 }
 
