@@ -23,7 +23,7 @@ struct Size {
 };
 
 struct Options {
-    String libraryFile;
+    String plateLibrary;
     String plate;
     String output;
     Single scale = 50;
@@ -70,7 +70,7 @@ class Drawing {
         const std::optional<Size> size = ParseSize(options_.size);
         plate_.FixedSize = false;
         plate_.DrawingScale(options_.scale);
-        if (!plate_.SetPlate(options_.plate, options_.libraryFile)) return false;
+        if (!plate_.SetPlate(options_.plate, options_.plateLibrary)) return false;
         if (!options_.data.empty()) keyHeight_ = ShownWellData::KeyHeight(plate_);
         if (size) FitInto(*size);
         return true;
@@ -129,7 +129,7 @@ ExitCode Run(const Options& options) {
 }
 
 void AddOptions(CLI::App& parser, Options& options) {
-    parser.add_option("library", options.libraryFile, "Plate library file")->required();
+    parser.add_option("library", options.plateLibrary, "Plate library file")->required();
     parser.add_option("plate", options.plate, "Name of the plate, in any letter case")->required();
     parser.add_option("-o,--output", options.output, "SVG file; standard output if left out or -");
     auto* const scale =

@@ -12,7 +12,7 @@ namespace zorvane {
 namespace {
 
 struct Options {
-    String libraryFile;
+    String plateLibrary;
     TableForm form = TableForm::Aligned;
 };
 
@@ -29,10 +29,10 @@ Table TableOf(const LibraryListing& listing) {
 
 ExitCode Run(const Options& options) {
     const LibraryListing listing =
-        WithFile(options.libraryFile, [&] { return ListLibrary(options.libraryFile); });
+        WithFile(options.plateLibrary, [&] { return ListLibrary(options.plateLibrary); });
     WriteAll({}, TableText(TableOf(listing), options.form));
     if (listing.code == 0) return kDone;
-    std::cerr << "plate: " << PrintableUtf8(options.libraryFile)
+    std::cerr << "plate: " << PrintableUtf8(options.plateLibrary)
               << ": the search for a plate ends at line " << listing.stoppedAtLine
               << "; \"plate check\" says why\n";
     return kFailed;
@@ -44,7 +44,7 @@ Command MakeListCommand(CLI::App& app) {
     auto* const parser =
         app.add_subcommand("list", "List the plates that can be found in a library");
     auto options = std::make_shared<Options>();
-    parser->add_option("library", options->libraryFile, "Plate library file")->required();
+    parser->add_option("library", options->plateLibrary, "Plate library file")->required();
     AddFormOptions(*parser, options->form);
     parser->footer("Examples:\n"
                    "  plate list Plates.Dat\n"

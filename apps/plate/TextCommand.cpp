@@ -9,7 +9,7 @@ namespace zorvane {
 namespace {
 
 struct Options {
-    String libraryFile;
+    String plateLibrary;
     String plate;
     bool fields = false;
 };
@@ -29,8 +29,8 @@ std::unique_ptr<cmPlate> ReadAlone(const String& library, const String& name) {
 }
 
 ExitCode Run(const Options& options) {
-    const auto plate = WithFile(options.libraryFile,
-                                [&] { return ReadAlone(options.libraryFile, options.plate); });
+    const auto plate = WithFile(options.plateLibrary,
+                                [&] { return ReadAlone(options.plateLibrary, options.plate); });
     WriteAll({}, options.fields ? plate->AsText() : plate->Text());
     return kDone;
 }
@@ -40,7 +40,7 @@ ExitCode Run(const Options& options) {
 Command MakeTextCommand(CLI::App& app) {
     auto* const parser = app.add_subcommand("text", "Write the definition of a plate as text");
     auto options = std::make_shared<Options>();
-    parser->add_option("library", options->libraryFile, "Plate library file")->required();
+    parser->add_option("library", options->plateLibrary, "Plate library file")->required();
     parser->add_option("plate", options->plate, "Name of the plate, in any letter case")
         ->required();
     parser->add_flag("--fields", options->fields,

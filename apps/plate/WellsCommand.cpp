@@ -10,7 +10,7 @@ namespace zorvane {
 namespace {
 
 struct Options {
-    String libraryFile;
+    String plateLibrary;
     String plate;
     TableForm form = TableForm::Aligned;
 };
@@ -42,7 +42,7 @@ Table TableOf(const cmPlate& plate) {
 
 ExitCode Run(const Options& options) {
     cmPlate plate;
-    if (!plate.SetPlate(options.libraryFile, options.plate)) return kFailed;
+    if (!plate.SetPlate(options.plateLibrary, options.plate)) return kFailed;
     const Table table = WithFile(options.plate, [&] { return TableOf(plate); });
     WriteAll({}, TableText(table, options.form));
     return kDone;
@@ -54,7 +54,7 @@ Command MakeWellsCommand(CLI::App& app) {
     auto* const parser =
         app.add_subcommand("wells", "Tell where each well position of a plate lies");
     auto options = std::make_shared<Options>();
-    parser->add_option("library", options->libraryFile, "Plate library file")->required();
+    parser->add_option("library", options->plateLibrary, "Plate library file")->required();
     parser->add_option("plate", options->plate, "Name of the plate, in any letter case")
         ->required();
     AddFormOptions(*parser, options->form);

@@ -18,7 +18,7 @@ constexpr int kFailed = 1;
 struct Options {
     QString picture;
     QString output;
-    QString libraryFile;
+    QString plateLibrary;
 };
 
 Options ReadOptions(const QCoreApplication& app) {
@@ -41,13 +41,13 @@ Options ReadOptions(const QCoreApplication& app) {
     Options options{parser.value(QStringLiteral("picture")), parser.value(QStringLiteral("output")),
                     files.value(0)};
     const bool incomplete = parser.isSet(QStringLiteral("picture")) &&
-                            (options.output.isEmpty() || options.libraryFile.isEmpty());
+                            (options.output.isEmpty() || options.plateLibrary.isEmpty());
     if (incomplete || files.size() > 1) parser.showHelp(kFailed);
     return options;
 }
 
 int Draw(const Options& options) {
-    const QString failure = WritePicture(options.libraryFile, options.picture, options.output);
+    const QString failure = WritePicture(options.plateLibrary, options.picture, options.output);
     if (failure.isEmpty()) return 0;
     QTextStream(stderr) << "plate-viewer: " << failure << "\n";
     return kFailed;
@@ -87,6 +87,6 @@ int main(int argc, char** argv) {
     if (!options.picture.isEmpty()) return Draw(options);
     MainWindow window;
     window.show();
-    if (!options.libraryFile.isEmpty()) window.OpenLibrary(options.libraryFile);
+    if (!options.plateLibrary.isEmpty()) window.OpenLibrary(options.plateLibrary);
     return QApplication::exec();
 }

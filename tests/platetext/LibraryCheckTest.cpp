@@ -33,14 +33,14 @@ String GoodPlate(std::string_view name = "P") {
 }
 
 struct Case {
-    String library;
+    String text;
     Texts findings;
 };
 
 void ExpectFindings(const std::vector<Case>& cases) {
     for (const Case& each : cases) {
         const std::vector<String> expected(each.findings.begin(), each.findings.end());
-        EXPECT_EQ(FindingsIn(each.library), expected) << each.library;
+        EXPECT_EQ(FindingsIn(each.text), expected) << each.text;
     }
 }
 
