@@ -1,10 +1,14 @@
 #include "apps/viewer/Picture.h"
 
+#include "drawing/PlatePainter.h"
 #include "hosts/qt/PlateWidget.h"
+#include "hosts/qt/QtCanvas.h"
+#include "hosts/qt/QtPalette.h"
 #include "hosts/qt/Units.h"
 #include "platform/Process.h"
 
 #include <QImageWriter>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -41,7 +45,14 @@ QImage PictureOf(PlateWidget& widget) {
     const QSize area = ToPixels(plate.Elements().fraPlate.box).toAlignedRect().size();
     QImage image(area.grownBy({kMargin, kMargin, kMargin, kMargin}), QImage::Format_RGB32);
     image.fill(widget.palette().color(QPalette::Window));
-    widget.render(&image, {kMargin, kMargin}, QRect({}, area), QWidget::DrawWindowBackground);
+    // Nobody can press the button in a picture.
+    Surface shown = plate.Elements();
+    shown.cmdData.visible = false;
+    QPainter painter(&image);
+    painter.translate(kMargin, kMargin);
+    ShapeImages images;
+    QtCanvas canvas(painter, images, widget.font(), QRect({}, area));
+    PaintControl(shown, SystemColors(widget.palette()), canvas);
     return image;
 }
 
