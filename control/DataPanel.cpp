@@ -1,7 +1,11 @@
 #include "control/DataPanel.h"
 
+#include "control/Layout.h"
+#include "control/PanelPages.h"
 #include "control/WellElements.h"
 #include "runtime/Rounding.h"
+
+#include <string_view>
 
 namespace zorvane {
 
@@ -27,6 +31,60 @@ void ShowDataPanel(ControlParts parts, Boolean visible) {
     if (width != parts.site.Width() || height != parts.site.Height())
         parts.site.Resize(width, height);
     RepaintAll(parts);
+}
+
+// Entries are written over in place: a layout of the same plate allocates nothing.
+void ListPages(ControlParts parts) {
+    const CompoundWell& layout = *parts.state.Definition().CompoundWell();
+    auto& entries = parts.surface.panel.comboSelect.entries;
+    entries.resize(static_cast<std::size_t>(layout.Count()) + 3);
+    entries[kCommentPage] = "Comments";
+    entries[kTagPage] = "Tags";
+    entries[kGeneralPage] = "General Properties";
+    auto entry = entries.begin() + kGeneralPage;
+    for (const auto& subWell : layout)
+        (*++entry = subWell->WellName()) += " Well";
+    ChoosePage(parts, kCommentPage);
+}
+
+void ChoosePage(ControlParts parts, Integer position) {
+    PanelElements& panel = parts.surface.panel;
+    if (position < 0 || static_cast<std::size_t>(position) >= panel.comboSelect.entries.size())
+        Raise(ErrorNumber::InvalidProcedureCall);
+    panel.comboSelect.position = position;
+    FillPage(parts, position);
+    panel.mnuPopup[mnuAddNewSubWell].enabled = position >= kGeneralPage;
+    for (const auto command : {mnuRemoveSubWell, mnuMoveUp, mnuMoveDown, mnuRenameSubwell})
+        panel.mnuPopup[command].enabled = position > kGeneralPage;
+}
+
+// The row text boxes take text all the same; without the Apply button it goes nowhere.
+void EnableEditing(ControlParts parts, Boolean on) {
+    PanelElements& panel = parts.surface.panel;
+    const Long back = on ? kWindowBackground : kButtonFace;
+    for (TextBox& row : panel.txtData)
+        row.back = back;
+    panel.txtComment.back = back;
+    parts.state.EditEnable = on;
+    panel.cmdApply.visible = panel.cmdPopup.visible = on;
+    panel.cmbStyle.enabled = panel.txtComment.enabled = on;
+
+    const Rect& apply = panel.cmdApply.box;
+    panel.ControlPic.height = on ? apply.Bottom() : apply.top - apply.height / 2;
+    parts.surface.fraData.box.height = panel.ControlPic.Bottom() + apply.height;
+}
+
+void ApplyPage(ControlParts parts) {
+    ReadPage(parts, parts.surface.panel.comboSelect.position);
+    LayoutPlate(parts, false);
+    parts.events.Raise([](PlateObserver& host) { host.ApplyChanges(); });
+    parts.state.LayoutBusy = false;
+    ShowDataPanel(parts, true);
+}
+
+void PanelChanged(ControlParts parts, const Rect& before) {
+    if (parts.surface.fraData.visible) parts.site.Repaint(Union(before, parts.surface.fraData.box));
+    parts.site.PanelChanged();
 }
 
 } // namespace zorvane

@@ -2,6 +2,7 @@
 
 #include "control/DataPanel.h"
 #include "control/LegendLayout.h"
+#include "control/PanelPages.h"
 #include "control/SubWellDrawing.h"
 #include "control/WellElements.h"
 #include "platform/Process.h"
@@ -25,6 +26,7 @@ class Layout {
     void Run() {
         CopyPlateValues();
         PlaceFrames();
+        ListPages(parts_);
         SizeWellRecords();
         if (state_.FixedSize) FitScaleToControl();
         surface_.fraPlate.visible = false;
@@ -34,7 +36,9 @@ class Layout {
         LayOutSubWells();
         ShowShapes();
         CentreFrames();
+        surface_.panel.cmdApply.visible = state_.EditEnable;
         state_.LayoutBusy = false;
+        FillPage(parts_, kCommentPage);
         surface_.fraPlate.visible = true;
         ShowDataPanel(parts_, false);
     }

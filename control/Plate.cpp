@@ -1,6 +1,5 @@
 #include "control/Plate.h"
 
-#include "control/DataPanel.h"
 #include "control/Layout.h"
 #include "platform/Process.h"
 #include "runtime/Checked.h"
@@ -69,22 +68,6 @@ void Plate::DrawingScale(Single value) {
     if (PlateLoaded) LayoutPlate(Parts(), false);
 }
 
-void Plate::DefaultRimColor(Long value) {
-    PlateState::DefaultRimColor = value;
-    surface_.StyleRim.fill = value;
-}
-
-void Plate::DefaultWellColor(Long value) {
-    PlateState::DefaultWellColor = value;
-    surface_.StyleWell.fill = value;
-}
-
-Boolean Plate::DataVisible() const { return surface_.fraData.visible; }
-
-void Plate::DataVisible(Boolean value) { ShowDataPanel(Parts(), value); }
-
 void Plate::Paint() { focus_.Refresh(); }
-
-void Plate::DataButtonPressed() { DataVisible(!DataVisible()); }
 
 } // namespace zorvane

@@ -102,9 +102,20 @@ class Plate : private PlateState {
     void DefaultRimColor(Long value);
     Long DefaultWellColor() const { return PlateState::DefaultWellColor; }
     void DefaultWellColor(Long value);
+
+    // The details panel, whose pages are numbered as in PanelElements.h.
+
     /// Whether the details panel is open.
     Boolean DataVisible() const;
     void DataVisible(Boolean value);
+    Boolean EditEnable() const { return PlateState::EditEnable; }
+    /// Lets the operator edit the plate definition in the panel.
+    void EditEnable(Boolean value);
+    /// Shows a page of the plate definition; the page chooser stays. Error 9 for the page of a
+    /// sub-well that the definition does not have.
+    void SetDataDisplay(Integer Index);
+    /// Takes the panel's texts as a page of the plate definition, which then reads itself anew.
+    void GetDataDisplay(Integer Index);
 
     // The current well. Setters check no range and draw nothing; error 6 when the well number does
     // not fit 16 bits.
@@ -250,6 +261,23 @@ class Plate : private PlateState {
     /// The button that opens the details panel was pressed.
     void DataButtonPressed();
 
+    // Input in the details panel, from the host that mirrors it. Failures of a command reach the
+    // caller with the changes made before them in place.
+
+    /// An entry of comboSelect was chosen; error 5 when there is none at this position.
+    void PageChosen(Integer position);
+    /// The text in txtComment, or in a row of txtData, is now this. Lines end with CR LF. Error 9
+    /// for a row that is not there.
+    void CommentTyped(const String& text);
+    void RowTyped(Integer row, const String& text);
+    /// An entry of cmbStyle was chosen; error 5 when there is none at this position.
+    void StyleChosen(Integer position);
+    void ApplyPressed();
+    /// cmdPopup was pressed: lets the operator choose a command and carries it out.
+    void MenuPressed();
+    /// Carries out a command, whether or not its menu entry is enabled.
+    void MenuChosen(SubWellCommand command);
+
     // Operator input, from the host. X and Y are drawing units in the plate area; buttons and shift
     // keys as in PlateTypes.h. Input on the plate area while the mouse is disabled is ignored,
     // moves apart.
@@ -270,6 +298,7 @@ class Plate : private PlateState {
 
   private:
     void ShowLoadedPlate();
+    void TextTyped(TextBox& box, const String& text);
     Boolean IsShown(Integer WellNo) const { return WellNo < PlateState::TotalWells; }
     /// The definition of the current sub-well, or null while none is chosen.
     std::shared_ptr<WellDetails> CurrentSubWell() const;

@@ -53,6 +53,7 @@ struct PlateState : PlateFields {
     Boolean PlateLoaded = false;
     Long DefaultWellColor = 0xE0E0E0;
     Long DefaultRimColor = 0xE0E0E0;
+    Boolean EditEnable = false; ///< the details panel takes edits
     Boolean LayoutBusy = false; ///< sub-well edits are pending: the hit test answers -1
     Integer ArrayX = 0;
     Integer ArrayY = 0;

@@ -34,6 +34,7 @@ inline constexpr Integer kAltKey = 4;
 /// A colour is 0x00BBGGRR, or, with the top bit set, the index of a system colour in its low byte,
 /// which whoever paints resolves.
 constexpr Long SystemColor(std::uint32_t index) { return static_cast<Long>(0x80000000U | index); }
+inline constexpr Long kWindowBackground = SystemColor(0x05);
 inline constexpr Long kButtonFace = SystemColor(0x0F);
 inline constexpr Long kButtonShadow = SystemColor(0x10);
 inline constexpr Long kGrayText = SystemColor(0x11);

@@ -19,9 +19,8 @@ Surface::Surface() {
     fraPlate.visible = true;
     fraData.box = {45, 45, 2775, 4740};
     cmdData.box = {120, 240, 240, 240};
+    cmdData.bold = true;
     cmdData.caption = "?";
-    StyleRim.box = {1380, 735, 255, 255};
-    StyleWell.box = {1440, 795, 135, 135};
     ResizeWells(1);
     CreateLegends(1);
 }

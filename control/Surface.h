@@ -1,6 +1,7 @@
 #pragma once
 
-#include "control/PlateTypes.h"
+#include "control/Elements.h"
+#include "control/PanelElements.h"
 #include "platform/HostSite.h"
 #include "runtime/Geometry.h"
 #include "runtime/Types.h"
@@ -9,61 +10,9 @@
 #include <utility>
 #include <vector>
 
-/// The retained elements of the control: plain data, and the single truth about what is shown. A
-/// host paints them (shapes, labels, frames) or mirrors them into widgets of its own (buttons, text
-/// boxes). Lengths are drawing units; elements inside the plate area are relative to its top-left
-/// corner.
+/// The retained elements of the control: plain data, and the single truth about what is shown.
+/// Lengths are drawing units; elements inside the plate area are relative to its top-left corner.
 namespace zorvane {
-
-/// Kinds of filled shapes, with their platform numbers. A circle is the largest one centred in its
-/// box; it is never stretched.
-enum class ShapeKind : std::uint8_t {
-    Rectangle = 0,
-    Square = 1,
-    Oval = 2,
-    Circle = 3,
-    Rounded = 4
-};
-
-/// A filled shape with an optional outline of one pixel.
-struct Shape {
-    Rect box;
-    Long fill = 0xE0E0E0;
-    ShapeKind kind = ShapeKind::Rectangle;
-    Boolean border = true;
-    Boolean visible = false;
-};
-
-/// A line of centred text on a transparent background.
-struct Label {
-    Rect box;
-    Long color = kButtonText;
-    Boolean visible = false;
-    String caption;
-};
-
-/// A framed area with a caption on its top border.
-struct Frame {
-    Rect box;
-    Long back = kButtonFace;
-    Long text = kButtonText;
-    Boolean visible = false;
-    String caption;
-};
-
-struct Button {
-    Rect box;
-    Boolean visible = true;
-    Boolean enabled = true;
-    Boolean bold = true;
-    String caption;
-};
-
-/// A dotted outline that inverts what lies under it.
-struct Outline {
-    Rect box;
-    Boolean visible = false;
-};
 
 /// A stretch of elements that lie one over the other in index order: for wells the rim, bottom and
 /// text of each, for legends the labels.
@@ -87,8 +36,7 @@ struct Surface {
     Frame fraData;
     Button cmdData;
     Outline SelectBox;
-    Shape StyleRim;
-    Shape StyleWell;
+    PanelElements panel; ///< the contents of fraData
 
     // One element per well number; element 0 always exists.
     std::vector<Shape> WellRim;

@@ -66,6 +66,7 @@ void RepaintInPlate(ControlParts parts, const Rect& area) {
 
 void RepaintAll(ControlParts parts) {
     parts.site.Repaint({0, 0, parts.site.Width(), parts.site.Height()});
+    parts.site.PanelChanged();
 }
 
 } // namespace zorvane

@@ -37,6 +37,8 @@ class HostSite : public InputBox, public PopupMenu {
     virtual void SetToolTip(const String& /*text*/) {}
     /// The pointer shape of the plate area has changed.
     virtual void SetPointer(PointerShape /*shape*/) {}
+    /// Elements in the details panel have changed. A host that mirrors them takes them over anew.
+    virtual void PanelChanged() {}
 };
 
 } // namespace zorvane

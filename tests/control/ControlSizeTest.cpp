@@ -27,11 +27,11 @@ TEST_F(ControlSizeTest, CentringNeedsAFixedSize) {
         plate.VerticalCentred = down;
         plate.DrawingScale(50);
         EXPECT_EQ(Shown().fraPlate.box, (Rect{plateLeft, plateTop, 6000, 4000}));
-        EXPECT_EQ(Shown().fraData.box, (Rect{dataLeft, dataTop, 2775, 4740}));
+        EXPECT_EQ(Shown().fraData.box, (Rect{dataLeft, dataTop, 2775, 4702.5F}));
     };
     plate.PlateClassText(OneDrop());
     centres(true, false, 300, 0, 1912.5F, 0);
-    centres(false, true, 0, 280, 0, -90);
+    centres(false, true, 0, 280, 0, -71.25F);
     plate.FixedSize = false;
     centres(true, true, 0, 0, 0, 0);
 }
@@ -57,8 +57,8 @@ TEST_F(ControlSizeTest, OpeningAndClosingTheDetailsPanelSizesTheControl) {
         plate.DrawingScale(plate.DrawingScale()); // a layout closes the panel too
         expectSize(false, closedWidth, closedHeight);
     };
-    sizes(true, "", 6600, 4740 + 240, 6600, 4800);
-    sizes(false, "", 6000, 4740 + 120, 6000, 4120); // the panel is taller than the plate
+    sizes(true, "", 6600, 4702.5F + 240, 6600, 4800);
+    sizes(false, "", 6000, 4702.5F + 120, 6000, 4120); // the panel is taller than the plate
     sizes(false, "XOVERALL 40\r\nYOVERALL 95\r\n", 2775, 4870, 2000, 4870); // and wider
 }
 

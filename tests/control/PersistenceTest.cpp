@@ -74,7 +74,7 @@ TEST_F(PersistenceTest, ANewControlAndAnEmptyStoreGiveTheSameControl) {
         };
         EXPECT_EQ(store.values, expected);
         EXPECT_EQ(plate->DrawingScale(), (4800 - 240) / 90.0F);
-        EXPECT_EQ(plate->Elements().StyleWell.fill, 0xE0E0E0);
+        EXPECT_EQ(plate->Elements().panel.StyleWell.fill, 0xE0E0E0);
         EXPECT_EQ(plate->TotalWells(), 2);
     }
 }
@@ -97,7 +97,7 @@ TEST_F(PersistenceTest, RestoresEverySettingBeforeThePlateIsLoaded) {
     EXPECT_EQ(plate.Elements().fraPlate.box, (Rect{0, 0, 4800, 3200}));
     EXPECT_EQ(plate.Elements().WellRim[95].fill, 1);
     EXPECT_EQ(plate.Elements().WellBottom[95].fill, 2);
-    EXPECT_EQ(plate.Elements().StyleRim.fill, 1);
+    EXPECT_EQ(plate.Elements().panel.StyleRim.fill, 1);
     EXPECT_TRUE(plate.MultipleSelect);
 }
 

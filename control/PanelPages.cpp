@@ -1,0 +1,184 @@
+#include "control/PanelPages.h"
+
+#include "control/FieldCaptions.h"
+#include "runtime/Checked.h"
+#include "runtime/Text.h"
+#include "support/TStringPair.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+namespace zorvane {
+
+namespace {
+
+constexpr Single kTagWidth = 1800;
+constexpr Single kValueWidth = 750;
+constexpr Single kBelowComment = 240;
+
+/// Gives a text box a width; its right edge stays.
+void Widen(TextBox& box, Single width) {
+    box.box.left = box.box.left + box.box.width - width;
+    box.box.width = width;
+}
+
+class Page {
+  public:
+    Page(ControlParts parts, Integer page)
+        : panel_(parts.surface.panel), frame_(parts.surface.fraData.box), state_(parts.state),
+          plate_(parts.state.Definition()), page_(page) {}
+
+    void Fill() {
+        const bool style = page_ > kGeneralPage;
+        panel_.StyleWell.visible = panel_.StyleRim.visible = panel_.cmbStyle.visible = style;
+        panel_.txtComment.visible = page_ == kCommentPage;
+        if (page_ == kCommentPage) FillComment();
+        if (page_ == kTagPage) FillTags();
+        if (page_ == kGeneralPage) FillGeneral();
+        if (style) FillSubWell();
+        if (page_ >= kTagPage) EndRows();
+        frame_.height = panel_.cmdApply.box.top + 2.5F * panel_.cmdApply.box.height;
+        panel_.ControlPic.height = frame_.height - panel_.cmdApply.box.height;
+        panel_.cmdApply.enabled = state_.LayoutBusy;
+    }
+
+  private:
+    void FillComment() {
+        panel_.txtComment.text = plate_.Comment;
+        panel_.cmdApply.box.top = panel_.txtComment.box.Bottom() + kBelowComment;
+    }
+
+    /// While the panel can be edited, the rows after the tags wait for new ones.
+    void FillTags() {
+        const std::size_t tags = static_cast<std::size_t>(plate_.Tags.Count());
+        const std::size_t all = panel_.txtData.size();
+        rows_ = state_.EditEnable ? all : std::min(tags, all);
+        for (std::size_t row = 0; row < rows_; ++row) {
+            const Long tag = static_cast<Long>(row) + 1;
+            const String text = row < tags ? plate_.Tags.Pair(tag)->Name() : String();
+            ShowRow(row, "Tag " + std::to_string(tag), text);
+            Widen(panel_.txtData[row], kTagWidth);
+            panel_.txtData[row].rightAligned = false;
+        }
+        if (rows_ > 0) return;
+        ShowRow(0, "No Tags Defined", panel_.txtData[0].text);
+        panel_.txtData[0].visible = false;
+        rows_ = 1;
+    }
+
+    void FillGeneral() {
+        for (const auto& pair : plate_.Properties) {
+            const String& name = pair->Name();
+            if (name.find('.') == name.npos && !EqualNoCase(name, "TAGLIST"))
+                ShowProperty(*pair, name);
+        }
+    }
+
+    void FillSubWell() {
+        const auto subWell = plate_.CompoundWell()->Item(Long{page_} - kGeneralPage);
+        ShowStyle(subWell->Style());
+        const String prefix = subWell->WellName() + ".";
+        for (const auto& pair : plate_.Properties) {
+            if (!StartsWithNoCase(pair->Name(), prefix)) continue;
+            const std::string_view field = std::string_view(pair->Name()).substr(prefix.size());
+            if (!EqualNoCase(field, "Well")) ShowProperty(*pair, field);
+        }
+    }
+
+    /// A style that has no entry shows none.
+    void ShowStyle(Long style) {
+        DropDown& list = panel_.cmbStyle;
+        const bool listed = style >= 0 && style < static_cast<Long>(list.entries.size());
+        const Integer position = listed ? static_cast<Integer>(style) : Integer{-1};
+        if (position == list.position) return;
+        list.position = position;
+        TakeStyle(panel_);
+    }
+
+    void ShowProperty(const TStringPair& pair, std::string_view field) {
+        const std::size_t row = rows_++;
+        panel_.CreateRow(row);
+        ShowRow(row, FieldCaption(field), pair.Value());
+        Widen(panel_.txtData[row], kValueWidth);
+        panel_.txtData[row].rightAligned = true;
+        panel_.lblAnnotation[row].Tag = pair.Name();
+    }
+
+    void ShowRow(std::size_t row, const String& caption, const String& text) {
+        panel_.lblAnnotation[row].caption = caption;
+        panel_.lblAnnotation[row].visible = true;
+        panel_.txtData[row].text = text;
+        panel_.txtData[row].visible = true;
+    }
+
+    /// The Apply button follows the last row that the page uses, or row 0 when it uses none.
+    void EndRows() {
+        const Rect& last = panel_.txtData[rows_ > 0 ? rows_ - 1 : 0].box;
+        panel_.cmdApply.box.top = last.top + 2 * last.height;
+        for (std::size_t row = rows_; row < panel_.txtData.size(); ++row) {
+            panel_.lblAnnotation[row].visible = false;
+            panel_.txtData[row].visible = false;
+        }
+    }
+
+    PanelElements& panel_;
+    Rect& frame_;
+    const PlateState& state_;
+    const cmPlate& plate_;
+    Integer page_;
+    std::size_t rows_ = 0; ///< in use
+};
+
+/// Every row is a tag here, a hidden one too: hosts that read this page without having it shown get
+/// what the other page left in the rows.
+void ReadTags(const PanelElements& panel, cmPlate& plate) {
+    plate.Tags.Clear();
+    String list;
+    for (const TextBox& row : panel.txtData) {
+        const String tag(Trim(row.text));
+        if (tag.empty()) continue;
+        plate.Tags.Add(std::make_shared<TStringPair>(tag, tag));
+        list += " " + tag;
+    }
+    if (plate.Properties.IndexOf("TagList") != 0) plate.Properties.Remove("Taglist");
+    if (list.empty()) return;
+    plate.Properties.Add(std::make_shared<TStringPair>("TagList", list.substr(1)), -1);
+}
+
+void ReadProperties(const PanelElements& panel, const cmPlate& plate) {
+    for (std::size_t row = 0; row < panel.txtData.size(); ++row) {
+        if (!panel.lblAnnotation[row].visible) continue;
+        const auto pair = plate.Properties.Pair(panel.lblAnnotation[row].Tag);
+        if (!pair) Raise(ErrorNumber::InvalidProcedureCall);
+        pair->Value(panel.txtData[row].text);
+    }
+}
+
+} // namespace
+
+void FillPage(ControlParts parts, Integer page) { Page(parts, page).Fill(); }
+
+void ReadPage(ControlParts parts, Integer page) {
+    const PanelElements& panel = parts.surface.panel;
+    cmPlate& plate = parts.state.Definition();
+    if (page == kCommentPage) plate.Comment = panel.txtComment.text;
+    if (page == kTagPage) ReadTags(panel, plate);
+    if (page >= kGeneralPage) ReadProperties(panel, plate);
+    plate.SetFromText(plate.Text());
+}
+
+// Row 0 takes the name whatever property it shows.
+void TakeStyle(PanelElements& panel) {
+    const Integer position = panel.cmbStyle.position;
+    panel.cmdApply.enabled = true;
+    if (position < 0) return;
+    panel.txtData[0].text = panel.cmbStyle.entries[static_cast<std::size_t>(position)];
+    const bool roundWell = position == 0 || position == 1;
+    const bool roundRim = position == 0 || position == 2;
+    panel.StyleWell.kind = roundWell ? ShapeKind::Oval : ShapeKind::Rectangle;
+    panel.StyleRim.kind = roundRim ? ShapeKind::Oval : ShapeKind::Rectangle;
+}
+
+} // namespace zorvane
