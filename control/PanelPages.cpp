@@ -151,7 +151,7 @@ void ReadProperties(const PanelElements& panel, const cmPlate& plate) {
     for (std::size_t row = 0; row < panel.txtData.size(); ++row) {
         if (!panel.lblAnnotation[row].visible) continue;
         const auto pair = plate.Properties.Pair(panel.lblAnnotation[row].Tag);
-        if (!pair) Raise(ErrorNumber::InvalidProcedureCall);
+        if (!pair) Raise(ErrorNumber::ObjectNotSet);
         pair->Value(panel.txtData[row].text);
     }
 }

@@ -10,7 +10,7 @@ namespace zorvane {
 void FillPage(ControlParts parts, Integer page);
 
 /// Takes a page of the details panel into the plate definition, which then reads itself anew from
-/// its own text: what a value means is the reader's to say. Error 5 when a row shows a property
+/// its own text: what a value means is the reader's to say. Error 91 when a row shows a property
 /// that is no longer recorded.
 void ReadPage(ControlParts parts, Integer page);
 

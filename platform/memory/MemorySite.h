@@ -29,6 +29,7 @@ class MemorySite final : public HostSite {
     void FocusDataButton() override { ++dataButtonFocusRequests; }
     void SetToolTip(const String& text) override { toolTips.push_back(text); }
     void SetPointer(PointerShape shape) override { pointers.push_back(shape); }
+    void PanelChanged() override { ++panelChanges; }
     /// Gives the next of `answers`.
     String Ask(const Question& question) override;
     /// Gives the next of `choices`; a disabled or missing entry cannot be chosen and gives -1.
@@ -45,6 +46,7 @@ class MemorySite final : public HostSite {
     Long resizes = 0;
     Long focusRequests = 0;
     Long dataButtonFocusRequests = 0;
+    Long panelChanges = 0;
     /// Outlines on the plate area; as large as the control in the pixels of the present screen.
     InvertingOverlay overlay;
 
