@@ -131,11 +131,16 @@ Boolean IsNumber(std::string_view text) {
     return !text.empty() && NumberLength(text) == text.size() && ValueOf<Double>(text);
 }
 
+Double ParseDouble(std::string_view text) {
+    text = Trim(text);
+    if (text.empty() || NumberLength(text) != text.size()) Raise(ErrorNumber::TypeMismatch);
+    return LeadingNumber(text);
+}
+
 Long ParseLong(std::string_view text) {
     text = Trim(text);
     if (StartsWithNoCase(text, "&H")) return ParseHexadecimal(text.substr(2));
-    if (text.empty() || NumberLength(text) != text.size()) Raise(ErrorNumber::TypeMismatch);
-    return ToLong(LeadingNumber(text));
+    return ToLong(ParseDouble(text));
 }
 
 } // namespace zorvane

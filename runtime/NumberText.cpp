@@ -13,27 +13,60 @@ namespace {
 constexpr int kFirstLargeExponent = 15;
 constexpr int kLastSmallExponent = -5;
 
+constexpr std::string_view kSigns = "+-";
+
 /// What a picture asks for on each side of its point.
 struct Picture {
     bool plus = false;
+    bool grouped = false;
+    bool percent = false;
     bool point = false;
-    int leastWhole = 0; ///< digits before the point that are always written
+    int wholePlaces = 0; ///< digits before the point, written or not
+    int leastWhole = 0;  ///< those that are always written
     int leastPlaces = 0;
     int mostPlaces = 0;
+    std::string_view exponent; ///< "E+00", or nothing
 };
+
+/// Takes the exponent off the end of a picture.
+std::string_view TakeExponent(std::string_view& text) {
+    const std::size_t at = std::min(text.find_first_of("Ee"), text.size());
+    const std::string_view exponent = text.substr(at);
+    text = text.substr(0, at);
+    const bool whole =
+        exponent.empty() || (exponent.size() >= 3 && kSigns.find(exponent[1]) != kSigns.npos &&
+                             exponent.find_first_not_of('0', 2) == exponent.npos);
+    if (!whole) Raise(ErrorNumber::InvalidProcedureCall);
+    return exponent;
+}
+
+/// Takes the commas out of the digits before the point; true when there were some, each of which
+/// must stand between two digits.
+bool TakeCommas(String& whole) {
+    if (whole.find(',') == whole.npos) return false;
+    if (whole.front() == ',' || whole.back() == ',') Raise(ErrorNumber::InvalidProcedureCall);
+    whole.erase(std::remove(whole.begin(), whole.end(), ','), whole.end());
+    return true;
+}
 
 Picture ParsePicture(std::string_view text) {
     Picture picture;
-    if (!text.empty() && (text[0] == '+' || text[0] == '-')) {
+    if (!text.empty() && kSigns.find(text[0]) != kSigns.npos) {
         picture.plus = text[0] == '+';
         text.remove_prefix(1);
     }
-    if (text.find_first_not_of("0#.") != text.npos) Raise(ErrorNumber::InvalidProcedureCall);
+    picture.percent = text.ends_with('%');
+    if (picture.percent) text.remove_suffix(1);
+    picture.exponent = TakeExponent(text);
     const std::size_t point = text.find('.');
     picture.point = point != text.npos;
-    const std::string_view whole = text.substr(0, point);
+    String whole(text.substr(0, point));
+    picture.grouped = TakeCommas(whole);
     const std::string_view places = picture.point ? text.substr(point + 1) : "";
-    if (places.find('.') != places.npos) Raise(ErrorNumber::InvalidProcedureCall);
+    if (whole.find_first_not_of("0#") != whole.npos ||
+        places.find_first_not_of("0#") != places.npos)
+        Raise(ErrorNumber::InvalidProcedureCall);
+    picture.wholePlaces = static_cast<int>(whole.size());
     picture.leastWhole = static_cast<int>(whole.size() - std::min(whole.find('0'), whole.size()));
     picture.leastPlaces = static_cast<int>(places.rfind('0') + 1);
     picture.mostPlaces = static_cast<int>(places.size());
@@ -41,10 +74,13 @@ Picture ParsePicture(std::string_view text) {
 }
 
 /// The digits from 10^(whole - 1) down to the given number of places, zeros included.
-String FixedDigits(const Decimal& decimal, int whole, int places, bool point) {
+String FixedDigits(const Decimal& decimal, int whole, int places, bool point,
+                   bool grouped = false) {
     String text;
-    for (int power = whole - 1; power >= 0; --power)
+    for (int power = whole - 1; power >= 0; --power) {
         text += decimal.DigitAt(power);
+        if (grouped && power > 0 && power % 3 == 0) text += ',';
+    }
     if (point) text += '.';
     for (int power = -1; power >= -places; --power)
         text += decimal.DigitAt(power);
@@ -55,11 +91,15 @@ int PlacesOf(const Decimal& decimal) {
     return std::max(0, static_cast<int>(decimal.digits.size()) - 1 - decimal.exponent);
 }
 
+String PowerText(int power, std::size_t leastDigits) {
+    const String digits = std::to_string(std::abs(power));
+    return String(leastDigits - std::min(leastDigits, digits.size()), '0') + digits;
+}
+
 String ExponentText(const Decimal& decimal) {
     String text = decimal.digits.substr(0, 1);
     if (decimal.digits.size() > 1) text += "." + decimal.digits.substr(1);
-    const String power = std::to_string(std::abs(decimal.exponent));
-    return text + (decimal.exponent < 0 ? "E-" : "E+") + (power.size() < 2 ? "0" : "") + power;
+    return text + (decimal.exponent < 0 ? "E-" : "E+") + PowerText(decimal.exponent, 2);
 }
 
 String GeneralForm(const Decimal& decimal) {
@@ -71,18 +111,43 @@ String GeneralForm(const Decimal& decimal) {
     return sign + FixedDigits(decimal, std::max(1, decimal.exponent + 1), places, places > 0);
 }
 
+/// Rounds to what the picture shows. With an exponent, moves the point to where the picture has it
+/// and returns the power of ten that this takes.
+int FitToPicture(Decimal& decimal, const Picture& picture) {
+    const int wanted = picture.wholePlaces - 1;
+    if (picture.exponent.empty() || decimal.digits.empty()) {
+        decimal.Round(picture.mostPlaces);
+        return 0;
+    }
+    int power = decimal.exponent - wanted;
+    decimal.exponent = wanted;
+    decimal.Round(picture.mostPlaces);
+    // Rounding up to the next power of ten gives a digit too many.
+    power += decimal.exponent - wanted;
+    decimal.exponent = wanted;
+    return power;
+}
+
+String PictureExponent(int power, std::string_view picture) {
+    if (picture.empty()) return {};
+    const char* const sign = power < 0 ? "-" : picture[1] == '+' ? "+" : "";
+    return picture[0] + (sign + PowerText(power, picture.size() - 2));
+}
+
 } // namespace
 
 String FormatPicture(Double value, std::string_view picture) {
     const Picture wanted = ParsePicture(picture);
     Decimal decimal(value);
-    decimal.Round(wanted.mostPlaces);
+    if (wanted.percent && !decimal.digits.empty()) decimal.exponent += 2;
+    const int power = FitToPicture(decimal, wanted);
     const int whole = decimal.digits.empty() ? 0 : decimal.exponent + 1;
-    const String digits =
+    const String text =
         FixedDigits(decimal, std::max(whole, wanted.leastWhole),
-                    std::max(PlacesOf(decimal), wanted.leastPlaces), wanted.point);
-    if (decimal.negative) return "-" + digits;
-    return wanted.plus && !decimal.digits.empty() ? "+" + digits : digits;
+                    std::max(PlacesOf(decimal), wanted.leastPlaces), wanted.point, wanted.grouped) +
+        PictureExponent(power, wanted.exponent) + (wanted.percent ? "%" : "");
+    if (decimal.negative) return "-" + text;
+    return wanted.plus && !decimal.digits.empty() ? "+" + text : text;
 }
 
 String GeneralText(Double value) { return GeneralForm(Decimal(value)); }

@@ -46,6 +46,17 @@ TEST(NumberText, FollowsThePicture) {
         {0.01, "+0.0", "0.0"},
         {1e20, "0.00", "100000000000000000000.00"},
         {1e-300, "0.000", "0.000"},
+        {1234567.891, "#,##0.00", "1,234,567.89"},
+        {-999.999, "#,##0.00", "-1,000.00"},
+        {12, "0,000", "0,012"},
+        {0.1255, "0.0%", "12.6%"},
+        {0, "0%", "0%"},
+        {12345, "0.00E+00", "1.23E+04"},
+        {99999, "0.00E+00", "1.00E+05"},
+        {-0.00012, "0.0#e-0", "-1.2e-4"},
+        {12345, "00.0E-00", "12.3E03"},
+        {0, "0.0E+00", "0.0E+00"},
+        {1e300, "##0.#E+0", "100.E+298"},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(FormatPicture(row.value, row.picture), row.text)
@@ -54,7 +65,8 @@ TEST(NumberText, FollowsThePicture) {
 }
 
 TEST(NumberText, RefusesWhatIsNoPictureOrNoNumber) {
-    for (const char* const picture : {"0.0.0", "x", "0,00", "++0", "0 "})
+    for (const char* const picture :
+         {"0.0.0", "x", ",0", "0,.0", "0.0,0", "++0", "0 ", "0E", "0E+", "0E+1", "%0"})
         EXPECT_EQ(NumberRaisedBy([&] { FormatPicture(1, picture); }), 5) << picture;
     for (const Double value : {HUGE_VAL, -HUGE_VAL, std::nan("")}) {
         EXPECT_EQ(NumberRaisedBy([&] { FormatPicture(value, "0.00"); }), 6) << value;
