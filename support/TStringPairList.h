@@ -10,6 +10,8 @@
 
 namespace zorvane {
 
+class XMLFile;
+
 /// An ordered list of shared name/value pairs, unique by the names they are added with, compared
 /// without regard to case. Positions count from 1.
 ///
@@ -27,6 +29,22 @@ class TStringPairList {
 
     /// Takes over the source's members and copies of its pairs.
     void Copy(const TStringPairList& source);
+
+    /// Replaces the pairs by those of the section that is read to its end, and the name, which
+    /// comes with the quotes that it is written in. Errors of XMLFile; what was read until then
+    /// stays.
+    void ReadFromXML(XMLFile& x);
+    /// Writes the list as a section. Pairs whose value is their name apart from letter case are
+    /// left out: readers of such files take a name that is missing for one that stands for itself.
+    void WriteToXML(XMLFile& x) const;
+    /// Adds the pairs found in the key's subkey Entries, at most 51, and takes the name. The result
+    /// is false whether it worked or not. Errors 13 and 6 for a stored count that is no 16-bit
+    /// number, 9 when no entries can be read; the name has been taken then.
+    Boolean ReadFromRegistry(Long root, const String& key);
+    /// Stores count, name and pairs; values of other pairs stay in Entries. Failures are shown,
+    /// and the result is false whether it worked or not.
+    Boolean WriteToRegistry(Long root, const String& key) const;
+
     void Clear() { pairs_.Clear(); }
 
     /// Adds the pair at the end (0), in front (negative) or after a position, replacing a pair of

@@ -1,0 +1,188 @@
+#include "platetext/PlateFunctions.h"
+#include "support/XMLFile.h"
+
+namespace zorvane {
+
+namespace {
+
+constexpr Long kNotOpened = 1050;
+constexpr Long kNotRead = 1051;
+constexpr Long kBadTag = 1055;
+const char* const kTagSource = "XML Read Data";
+
+/// Without the spaces around it; other blanks belong to names and values of attributes.
+std::string_view TrimSpaces(std::string_view text) {
+    while (text.starts_with(' '))
+        text.remove_prefix(1);
+    while (text.ends_with(' '))
+        text.remove_suffix(1);
+    return text;
+}
+
+bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
+
+bool IsHeaderLine(std::string_view line) {
+    return Contains(line, "<?xml version") && Contains(line, "\"1.0\"") && Contains(line, "?>");
+}
+
+} // namespace
+
+String XMLFile::ReadXMLSectionHeader() {
+    tagName_.clear();
+    tagValue_.clear();
+    indexes_.At(depth_).clear();
+    images_.At(depth_).clear();
+    const std::string_view buffer = ReadBuffer();
+    Take(buffer.find('<') + 1); // nothing when there is none
+    const std::size_t end = Rest().find('>');
+    if (end == String::npos) {
+        throw RuntimeError(kBadTag, "XML section header missing in file " + fileName_,
+                           "Application-defined or object-defined error");
+    }
+    const std::string_view tag = Take(end + 1).substr(0, end);
+    return tag.starts_with('/') ? EndSection(tag) : BeginSection(tag);
+}
+
+String XMLFile::EndSection(std::string_view tag) {
+    if (tag.substr(1) != sections_.At(depth_ - 1)) RaiseSectionEnd();
+    --depth_;
+    return String(tag);
+}
+
+String XMLFile::BeginSection(std::string_view tag) {
+    String name(tag.substr(0, tag.find(' ')));
+    ReadAttributes(name, TrimSpaces(tag.substr(name.size())));
+    if (name.ends_with('/')) {
+        // An empty member reads as a section that ends at once.
+        name.pop_back();
+        name = TrimSpaces(name);
+        PutBack("</" + name + ">");
+    }
+    sections_.At(depth_) = name;
+    ++depth_;
+    return name;
+}
+
+void XMLFile::ReadAttributes(std::string_view section, std::string_view rest) {
+    while (!rest.empty()) {
+        const std::size_t equals = rest.find('=');
+        if (equals == rest.npos) {
+            tagName_ = rest;
+            return;
+        }
+        const std::string_view name = TrimSpaces(rest.substr(0, equals));
+        const std::string_view value = TrimSpaces(rest.substr(equals + 1));
+        const std::size_t quote = value.find('"', 1);
+        if (!value.starts_with('"') || quote == value.npos) {
+            throw RuntimeError(kBadTag, kTagSource,
+                               "Missing quotes in section <" + String(section) +
+                                   "> tag value in file " + fileName_);
+        }
+        StoreAttribute(name, value.substr(1, quote - 1));
+        rest = TrimSpaces(value.substr(quote + 1));
+    }
+}
+
+void XMLFile::StoreAttribute(std::string_view name, std::string_view value) {
+    if (name == "Index") {
+        indexes_.At(depth_) = value;
+    } else if (name == "Image") {
+        images_.At(depth_) = value;
+    } else {
+        tagName_ = name;
+        tagValue_ = value;
+    }
+}
+
+String XMLFile::ReadXMLData() {
+    String data;
+    std::size_t tag = 0;
+    while ((tag = ReadBuffer().find('<')) == String::npos)
+        data += Take(Rest().size());
+    data += Take(tag);
+    if (Rest().starts_with("</")) {
+        EndData();
+    } else {
+        sectionComplete_ = false;
+    }
+    return XMLToString(data);
+}
+
+/// Takes the tag that ends the section off with its data. One that is cut off ends nothing.
+void XMLFile::EndData() {
+    const std::size_t end = Rest().find('>');
+    const bool whole = end != String::npos;
+    const std::string_view name = whole ? Take(end + 1).substr(2, end - 2) : std::string_view();
+    sectionComplete_ = whole && name == sections_.At(depth_ - 1);
+    if (!sectionComplete_) RaiseSectionEnd();
+    --depth_;
+}
+
+String XMLFile::ReadXMLStringValue() { return XMLToString(ReadXMLData()); }
+
+void XMLFile::RaiseSectionEnd() const {
+    throw RuntimeError(kBadTag, kTagSource,
+                       "Section end </" + sections_.At(depth_ - 1) + "> not found in file " +
+                           fileName_);
+}
+
+std::string_view XMLFile::ReadBuffer() {
+    if (!openForReading_) OpenForReading();
+    while (Rest().empty())
+        ReadNextLine();
+    return Rest();
+}
+
+void XMLFile::OpenForReading() {
+    openForReading_ = true;
+    try {
+        input_.OpenInput(fileName_);
+        ReadHeaderLine();
+    } catch (const RuntimeError&) {
+        input_.Close();
+        throw RuntimeError(kNotOpened, "XMLFile",
+                           "Could not open XMLFile <" + fileName_ + "> for reading.");
+    }
+}
+
+/// A line that is no header stays in the buffer, and reading on begins with it.
+void XMLFile::ReadHeaderLine() {
+    buffer_ = TrimSpaces(input_.ReadLine());
+    at_ = 0;
+    if (!IsHeaderLine(buffer_)) throw RuntimeError(kNotRead, "XMLFile", "No header line");
+    buffer_.clear();
+}
+
+void XMLFile::ReadNextLine() {
+    try {
+        input_.ReadLine(buffer_);
+        buffer_.resize(TrimEnd(buffer_).size());
+        at_ = buffer_.size() - TrimStart(buffer_).size();
+    } catch (const RuntimeError&) {
+        buffer_.clear();
+        at_ = 0;
+        input_.Close();
+        throw RuntimeError(kNotRead, "XMLFile",
+                           "Could not read data from XMLFile <" + fileName_ + ">");
+    }
+}
+
+/// Takes text off the front of the buffer. Good until the next line is read.
+std::string_view XMLFile::Take(std::size_t length) {
+    const std::string_view taken = Rest().substr(0, length);
+    at_ += length;
+    return taken;
+}
+
+/// Puts text in front of the buffer, in the place of what was taken: a line may hold very many
+/// empty members.
+void XMLFile::PutBack(std::string_view text) {
+    if (at_ < text.size()) {
+        buffer_.insert(0, text.size() - at_, ' ');
+        at_ = text.size();
+    }
+    at_ -= text.size();
+    buffer_.replace(at_, text.size(), text);
+}
+
+} // namespace zorvane

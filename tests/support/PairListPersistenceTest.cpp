@@ -1,0 +1,233 @@
+#include "support/TStringPairList.h"
+#include "support/XMLFile.h"
+
+#include "Raised.h"
+#include "TempFile.h"
+#include "TestProcess.h"
+
+#include <random>
+
+namespace zorvane {
+namespace {
+
+constexpr Long kRoot = kCurrentUser;
+const String kKey = "Software\\Tool\\Pairs";
+
+using Pairs = std::vector<std::pair<String, String>>;
+
+Pairs PairsOf(const TStringPairList& list) {
+    Pairs pairs;
+    for (const auto& pair : list)
+        pairs.emplace_back(pair->Name(), pair->Value());
+    return pairs;
+}
+
+void Fill(TStringPairList& list, const Pairs& pairs) {
+    for (const auto& [name, value] : pairs)
+        list.Add(std::make_shared<TStringPair>(name, value));
+}
+
+void Write(const TStringPairList& list, const String& path) {
+    XMLFile x;
+    x.FileName(path);
+    list.WriteToXML(x);
+    x.CloseXMLFile();
+}
+
+void Read(TStringPairList& list, const String& path) {
+    XMLFile x;
+    x.FileName(path);
+    list.ReadFromXML(x);
+}
+
+String Bytes(const TStringPairList& list) {
+    const TempFile file;
+    Write(list, file.Path());
+    return file.Bytes();
+}
+
+TEST(PairListXML, WritesAllButPairsThatRepeatTheirName) {
+    TStringPairList list;
+    EXPECT_EQ(Bytes(list), "<?xml version=\"1.0\"?>\r\n<PairList>\r\n</PairList>\r\n");
+    list.Name = "Tags";
+    Fill(list, {{"Colour", "Red"}, {"ABC", "abc"}, {"a \"b\"", ""}, {"", "<1>"}, {"\n", "\n"}});
+    EXPECT_EQ(Bytes(list), "<?xml version=\"1.0\"?>\r\n"
+                           "<PairList>\r\n"
+                           " <Name>&quot;Tags&quot;</Name>\r\n"
+                           " <Field Name=\"Colour\">\r\n"
+                           "  <Name>Colour</Name>\r\n"
+                           "  <Value>Red</Value>\r\n"
+                           " </Field>\r\n"
+                           " <Field Name=\"a \"\"b\"\"\">\r\n"
+                           "  <Name>a &quot;b&quot;</Name>\r\n"
+                           "  <Value/>\r\n"
+                           " </Field>\r\n"
+                           " <Field Name=\"\">\r\n"
+                           "  <Name/>\r\n"
+                           "  <Value>&lt;1&gt;</Value>\r\n"
+                           " </Field>\r\n"
+                           "</PairList>\r\n");
+}
+
+TEST(PairListXML, ReadsFieldsInAnyCaseAndKeepsTheQuotesOfTheName) {
+    const TempFile file("<?xml version=\"1.0\"?>\n<Other><pairlist><NAME>&quot;Tags&quot;</NAME>\n"
+                        "<field Name=\"not this\"><value>1</value><More/><name>A</name></field>\n"
+                        "<Field><Name>B</Name></Field>\n"
+                        "<Field><Value>2</Value><Name>a</Name><Name>b</Name></Field>"
+                        "</pairlist><Name>outside</Name>");
+    TStringPairList list;
+    Fill(list, {{"old", "gone"}});
+    Read(list, file.Path());
+    EXPECT_EQ(list.Name, "\"Tags\"");
+    EXPECT_EQ(PairsOf(list), (Pairs{{"A", "1"}, {"b", "2"}}));
+}
+
+TEST(PairListXML, StopsAtTheEndOfAFileCutAnywhere) {
+    TStringPairList list;
+    list.Name = "Tags";
+    Fill(list, {{"Colour", "Red & \"blue\""}, {"Empty", ""}, {"Last", "1"}});
+    const String bytes = Bytes(list);
+    const TempFile file;
+    for (std::size_t length = 0; length < bytes.size() - 2; ++length) {
+        std::ofstream(file.Path(), std::ios::binary) << bytes.substr(0, length);
+        TStringPairList cut;
+        const Long number = NumberRaisedBy([&] { Read(cut, file.Path()); });
+        const bool expected = length < 21 ? number == 1050 : number == 1051 || number == 1055;
+        EXPECT_TRUE(expected) << number << " at " << length;
+        EXPECT_LE(cut.Count(), list.Count());
+    }
+}
+
+/// A text as it is read back: its line breaks are gone, with the blanks around them.
+String Joined(std::string_view text) {
+    String joined;
+    bool first = true;
+    for (;;) {
+        const std::size_t end = text.find_first_of("\r\n");
+        std::string_view line = text.substr(0, end);
+        if (!first) line = TrimStart(line);
+        joined += end == text.npos ? line : TrimEnd(line);
+        if (end == text.npos) return joined;
+        text.remove_prefix(end + 1);
+        first = false;
+    }
+}
+
+String RandomText(std::mt19937& random, std::string_view letters) {
+    String text(random() % 9, ' ');
+    for (char& c : text)
+        c = letters[random() % letters.size()];
+    return text;
+}
+
+TEST(PairListXML, ReadsRandomListsBack) {
+    using namespace std::string_view_literals;
+    std::mt19937 random(20);
+    for (int round = 0; round < 300; ++round) {
+        TStringPairList list;
+        Pairs expected;
+        for (int i = 0; i < 12; ++i) {
+            const String name = std::to_string(i) + RandomText(random, "aB <&;/'\t\x01\xFF"sv);
+            const String value = i % 4 == 0
+                                     ? UpperText(name)
+                                     : RandomText(random, "aB \r\n<>&\";'=/\t\x00\x1B\xC3"sv);
+            Fill(list, {{name, value}});
+            if (!EqualNoCase(name, value)) expected.emplace_back(name, Joined(value));
+        }
+        const TempFile file;
+        Write(list, file.Path());
+        TStringPairList read;
+        Read(read, file.Path());
+        ASSERT_EQ(PairsOf(read), expected) << file.Bytes();
+    }
+}
+
+TEST(PairListXML, RefusesNamesThatItsTagsCannotHold) {
+    for (const char* const name : {"a>b", "a\"=", "a\nb"}) {
+        const TempFile file;
+        TStringPairList list;
+        Fill(list, {{name, "1"}});
+        Write(list, file.Path());
+        EXPECT_EQ(NumberRaisedBy([&] { Read(list, file.Path()); }), 1055) << name;
+    }
+}
+
+TEST(PairListXML, HoldsAMegabyteInAValueAndMorePairsThanSixteenBitsCount) {
+    TStringPairList list;
+    constexpr int pairs = 70000;
+    for (int i = 0; i < pairs; ++i)
+        list.Value("Name " + std::to_string(i), std::to_string(i));
+    list.Value("Large", String(1 << 19, '&') + String(1 << 19, 'x'));
+    const TempFile file;
+    Write(list, file.Path());
+    TStringPairList read;
+    Read(read, file.Path());
+    EXPECT_EQ(read.Count(), pairs + 1);
+    EXPECT_EQ(read.Value("LARGE"), list.Value("Large"));
+    EXPECT_EQ(read.Pair(pairs)->Name(), "Name 69999");
+    EXPECT_EQ(NumberRaisedBy([&] { read.IndexOf("Name 69999"); }), 6);
+}
+
+class PairListRegistry : public testing::Test {
+  protected:
+    void ExpectNoEntries() {
+        process.messages.Expect("Could not open registry key <" + kKey +
+                                "\\Entries> for writing.\r\nAPI Error=2");
+    }
+
+    TestProcess process;
+    TStringPairList list;
+};
+
+TEST_F(PairListRegistry, AddsWhatWasWrittenAndWhatWasLeftBehind) {
+    list.Name = "Tags";
+    Fill(list, {{"A", "1"}, {"B", "b"}, {"C", "3"}});
+    EXPECT_FALSE(list.WriteToRegistry(kRoot, kKey));
+    list.Remove("A");
+    list.WriteToRegistry(kRoot, kKey);
+    TStringPairList read;
+    Fill(read, {{"b", "replaced"}, {"Z", "kept"}});
+    EXPECT_FALSE(read.ReadFromRegistry(kRoot, kKey));
+    EXPECT_EQ(read.Name, "Tags");
+    EXPECT_EQ(PairsOf(read), (Pairs{{"Z", "kept"}, {"A", "1"}, {"B", "b"}, {"C", "3"}}));
+}
+
+TEST_F(PairListRegistry, ReadsRandomListsBack) {
+    using namespace std::string_view_literals;
+    std::mt19937 random(21);
+    for (int round = 0; round < 100; ++round) {
+        const String key = kKey + std::to_string(round);
+        TStringPairList written;
+        for (int i = 0; i < 51; ++i)
+            written.Value(RandomText(random, "abcdef\\>\"\n"sv),
+                          RandomText(random, "a\r\n\0\xFF"sv));
+        written.WriteToRegistry(kRoot, key);
+        TStringPairList read;
+        read.ReadFromRegistry(kRoot, key);
+        ASSERT_EQ(PairsOf(read), PairsOf(written));
+    }
+}
+
+TEST_F(PairListRegistry, RefusesKeysThatHoldNoList) {
+    ExpectNoEntries();
+    EXPECT_EQ(NumberRaisedBy([&] { list.ReadFromRegistry(kRoot, kKey); }), 9);
+    process.registry.Put(kRoot, kKey, "Name", kRegistryString, "Tags");
+    process.registry.Put(kRoot, kKey, "Count", kRegistryNumber, {"\x02\0\0\0", 4});
+    ExpectNoEntries();
+    EXPECT_EQ(NumberRaisedBy([&] { list.ReadFromRegistry(kRoot, kKey); }), 9);
+    EXPECT_EQ(list.Name, "Tags");
+    process.registry.Put(kRoot, kKey + "\\Entries", "A", kRegistryString, "1");
+    const struct {
+        const char* count;
+        Long number;
+    } rows[] = {{"many", 13}, {"", 13}, {"40000", 6}, {" 1.5 ", 0}};
+    for (const auto& row : rows) {
+        process.registry.Put(kRoot, kKey, "Count", kRegistryString, row.count);
+        list.Name = "before";
+        EXPECT_EQ(NumberRaisedBy([&] { list.ReadFromRegistry(kRoot, kKey); }), row.number);
+        EXPECT_EQ(list.Name, row.number == 0 ? "Tags" : "before") << row.count;
+    }
+}
+
+} // namespace
+} // namespace zorvane

@@ -1,0 +1,253 @@
+#include "support/XMLFile.h"
+
+#include "Raised.h"
+#include "TempFile.h"
+
+#include <functional>
+
+namespace zorvane {
+namespace {
+
+constexpr const char* kHeader = "<?xml version=\"1.0\"?>\r\n";
+
+/// What an action raises, as "number source: description" with FILE for the file's name; empty for
+/// nothing.
+String Raised(const String& fileName, const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const RuntimeError& error) {
+        String text =
+            std::to_string(error.Number()) + " " + error.Source() + ": " + error.Description();
+        const std::size_t at = text.find(fileName);
+        return at == text.npos ? text : text.replace(at, fileName.size(), "FILE");
+    }
+    return {};
+}
+
+/// An XML file on the bytes of a temporary one.
+struct Opened {
+    explicit Opened(std::string_view bytes = {}) : file(bytes) { x.FileName(file.Path()); }
+    String Fails(const std::function<void()>& action) const { return Raised(file.Path(), action); }
+
+    TempFile file;
+    XMLFile x;
+};
+
+String HeaderOf(XMLFile& x) { return x.ReadXMLSectionHeader(); }
+
+TEST(XMLFile, WritesEveryKindOfLine) {
+    Opened opened;
+    XMLFile& x = opened.x;
+    x.OpenXMLSection("A");
+    x.WriteXMLMember("B", "x<y & 'z' > \"q\"");
+    x.OpenXMLSection("Inner", "Index=\"3\"");
+    x.WriteXMLMember("Empty", "");
+    x.WriteXMLMember("Empty", "", "kind=\"tag\"");
+    x.WriteXMLMember("Member", "text", "kind=\"<tag>\"");
+    x.WriteXMLMember("Suppressed", "", {}, true);
+    x.WriteXMLMember("Suppressed", "not", {}, true);
+    x.WriteXMLBooleanValue("Yes", true);
+    x.WriteXMLBooleanValue("No", false);
+    x.WriteXMLBooleanValue("Suppressed", false, true);
+    x.WriteXMLStringValue("Text", "a\"b", "t");
+    x.WriteXMLStringValue("Nothing", "");
+    x.WriteXMLIntegerValue("Number", -2147483647 - 1);
+    x.WriteXMLIntegerValue("Number", 0);
+    x.WriteXMLIntegerValue("Suppressed", 0, true);
+    x.WriteXMLFloatValue("General", 1e-5);
+    x.WriteXMLFloatValue("Picture", " 1234.5 ", "#,##0.00");
+    x.WriteXMLFloatValue("Zero", 0);
+    x.WriteXMLFloatValue("Suppressed", "0.0", {}, true);
+    EXPECT_EQ(NumberRaisedBy([&] { x.WriteXMLFloatValue("Word", "much"); }), 13);
+    x.CloseXMLSection();
+    x.WriteXMLData("<as it=is>&\r\n");
+    EXPECT_TRUE(x.IsOpenForWriting());
+    EXPECT_FALSE(x.IsOpenForReading());
+    x.CloseXMLSection();
+    x.CloseXMLFile();
+    EXPECT_FALSE(x.IsOpenForWriting());
+    EXPECT_EQ(opened.file.Bytes(), String(kHeader) +
+                                       "<A>\r\n"
+                                       " <B>x&lt;y &amp; &#39;z&#39; &gt; &quot;q&quot;</B>\r\n"
+                                       " <Inner Index=\"3\">\r\n"
+                                       "  <Empty/>\r\n"
+                                       "  <Empty kind=\"tag\"></Empty>\r\n"
+                                       "  <Member kind=\"<tag>\">text</Member>\r\n"
+                                       "  <Suppressed>not</Suppressed>\r\n"
+                                       "  <Yes>Yes</Yes>\r\n"
+                                       "  <No>No</No>\r\n"
+                                       "  <Text t>&quot;a&quot;&quot;b&quot;</Text>\r\n"
+                                       "  <Number>-2147483648</Number>\r\n"
+                                       "  <Number>0</Number>\r\n"
+                                       "  <General>1E-05</General>\r\n"
+                                       "  <Picture>1,234.50</Picture>\r\n"
+                                       "  <Zero>0</Zero>\r\n"
+                                       " </Inner>\r\n"
+                                       " <as it=is>&\r\n\r\n"
+                                       "</A>\r\n");
+}
+
+TEST(XMLFile, UndoesEscapesOnceInDataAndTwiceInStringValues) {
+    const struct {
+        const char* source;
+        const char* once;
+        const char* twice;
+    } rows[] = {
+        {"a", "a", "a"},
+        {"&#39;&lt;&gt;&quot;&amp;", "'<>\"&", "'<>\"&"},
+        {"&amp;lt;", "&lt;", "<"},
+        {"&amp;amp;lt;", "&amp;lt;", "&lt;"},
+        {"& &lt &LT; &#60; &am&amp;p;", "& &lt &LT; &#60; &am&p;", "& &lt &LT; &#60; &am&p;"},
+    };
+    for (const auto& row : rows) {
+        const String member = String("<V>") + row.source + "</V>";
+        Opened opened(kHeader + member + member);
+        HeaderOf(opened.x);
+        EXPECT_EQ(opened.x.ReadXMLData(), row.once) << row.source;
+        HeaderOf(opened.x);
+        EXPECT_EQ(opened.x.ReadXMLStringValue(), row.twice) << row.source;
+    }
+}
+
+TEST(XMLFile, ReadsSectionsAttributesAndData) {
+    Opened opened("  <?xml version =\"1.0\" standalone ?> <Ignored>\n\n \t\r"
+                  "noise <A Index=\"1\" x = \"y z\" Image=\"&lt;\" plain>\r\n"
+                  "\t first \r\n\r\n  second&amp;  \n third <B/><C/>last</A><D/ E=\"\">");
+    XMLFile& x = opened.x;
+    EXPECT_EQ(HeaderOf(x), "A");
+    EXPECT_EQ(x.SectionIndex(), "1");
+    EXPECT_EQ(x.SectionImage(), "&lt;");
+    EXPECT_EQ(x.SectionTagName(), "plain");
+    EXPECT_EQ(x.SectionTagValue(), "y z");
+    EXPECT_EQ(x.ReadXMLData(), "firstsecond&third ");
+    EXPECT_FALSE(x.SectionComplete());
+    EXPECT_EQ(x.Section(), "");
+    for (const char* const name : {"B", "C"}) {
+        EXPECT_EQ(HeaderOf(x), name);
+        EXPECT_EQ(x.SectionTagName(), "");
+        EXPECT_EQ(x.SectionIndex(), "");
+        EXPECT_EQ(x.ReadXMLData(), "");
+        EXPECT_TRUE(x.SectionComplete());
+        EXPECT_EQ(x.Section(), name); // the one closed last
+    }
+    EXPECT_EQ(x.SectionIndex(), "1");
+    EXPECT_EQ(HeaderOf(x), "/A");
+    EXPECT_EQ(x.Section(), "");
+    EXPECT_EQ(HeaderOf(x), "D");
+    EXPECT_EQ(HeaderOf(x), "/D");
+}
+
+TEST(XMLFile, RaisesTheErrorOfEachBadFile) {
+    const char* const notOpened = "1050 XMLFile: Could not open XMLFile <FILE> for reading.";
+    const char* const notRead = "1051 XMLFile: Could not read data from XMLFile <FILE>";
+    const char* const noHeader = "1055 XML section header missing in file FILE: "
+                                 "Application-defined or object-defined error";
+    const char* const outside = "9 Zorvane: Subscript out of range";
+    const auto notEnded = [](const char* name) {
+        return String("1055 XML Read Data: Section end </") + name + "> not found in file FILE";
+    };
+    const char* const unquoted =
+        "1055 XML Read Data: Missing quotes in section <A> tag value in file FILE";
+    const struct {
+        const char* lines; ///< a "!" in front stands for no header line
+        String header;     ///< what reading a header raises
+        String data;       ///< what reading data then raises
+    } rows[] = {
+        {"!", notOpened, notRead},
+        {"!<A>", notOpened, ""}, // the first line stays in the buffer
+        {"!<?xml version=\"1.1\"?>", notOpened, ""},
+        {"!<?xml version=\"1.0\">", notOpened, ""},
+        {"", notRead, notRead},
+        {" \r\n\t", notRead, notRead},
+        {"<A", noHeader, notRead},
+        {"<A\r\nb=\"c\">", noHeader, notRead},
+        {"<A>text", "", notRead},
+        {"<A>text</a>", "", notEnded("A")},
+        {"<A>text</A", "", notEnded("A")},
+        {"<A>text</\r\nA>", "", notEnded("A")},
+        {"<A>text<B>", "", ""},
+        {"</A>", outside, notRead},
+        {"text</A>", outside, notRead},
+        {"<A b=c>", unquoted, notRead},
+        {"<A b=>", unquoted, notRead},
+        {"<A b=\"c>", unquoted, notRead},
+        {"<A b=\"c\" d=\"\r\n\">", noHeader, notRead},
+        {"<A b />", "", notRead}, // no empty member: the section stays open
+    };
+    for (const auto& row : rows) {
+        const bool bare = row.lines[0] == '!';
+        Opened opened(bare ? String(row.lines + 1) : kHeader + String(row.lines));
+        EXPECT_EQ(opened.Fails([&] { HeaderOf(opened.x); }), row.header) << row.lines;
+        EXPECT_EQ(opened.Fails([&] { opened.x.ReadXMLData(); }), row.data) << row.lines;
+        EXPECT_FALSE(opened.x.SectionComplete()) << row.lines;
+        EXPECT_TRUE(opened.x.IsOpenForReading()) << row.lines;
+    }
+    Opened mixed(String(kHeader) + "<A>\r\n<B>\r\n</A>\r\n");
+    HeaderOf(mixed.x);
+    HeaderOf(mixed.x);
+    EXPECT_EQ(mixed.Fails([&] { HeaderOf(mixed.x); }), notEnded("B"));
+}
+
+TEST(XMLFile, ClaimsToBeOpenAfterAFailedOpenUntilItIsClosed) {
+    Opened opened(String(kHeader) + "<A>");
+    opened.x.FileName(testing::TempDir() + "missing.xml");
+    EXPECT_EQ(NumberRaisedBy([&] { HeaderOf(opened.x); }), 1050);
+    EXPECT_TRUE(opened.x.IsOpenForReading());
+    opened.x.FileName(opened.file.Path());
+    EXPECT_EQ(NumberRaisedBy([&] { HeaderOf(opened.x); }), 1051);
+    opened.x.CloseXMLFile();
+    EXPECT_FALSE(opened.x.IsOpenForReading());
+    EXPECT_EQ(HeaderOf(opened.x), "A");
+}
+
+TEST(XMLFile, SaysThatTheFileCannotBeWritten) {
+    XMLFile x;
+    const String path = testing::TempDir() + "missing/a.xml";
+    x.FileName(path);
+    EXPECT_EQ(Raised(path, [&] { x.WriteXMLData("x"); }),
+              "1053 XMLFile: Could not write data to XMLFile <FILE>");
+    EXPECT_FALSE(x.IsOpenForWriting());
+    const TempFile file;
+    x.FileName(file.Path());
+    x.WriteXMLData("x");
+    x.CloseXMLFile();
+    EXPECT_EQ(file.Bytes(), String(kHeader) + "x\r\n");
+}
+
+TEST(XMLFile, NestsSeventeenSectionsAndEndsNoMoreThanItBegan) {
+    Opened opened;
+    for (int depth = 0; depth < 17; ++depth)
+        opened.x.OpenXMLSection("S");
+    EXPECT_EQ(NumberRaisedBy([&] { opened.x.OpenXMLSection("S"); }), 9);
+    EXPECT_EQ(NumberRaisedBy([&] { opened.x.Section(); }), 9);
+    for (int depth = 0; depth < 17; ++depth)
+        opened.x.CloseXMLSection();
+    EXPECT_EQ(NumberRaisedBy([&] { opened.x.CloseXMLSection(); }), 9);
+    EXPECT_EQ(NumberRaisedBy([&] { opened.x.OpenXMLSection("S"); }), 9);
+    EXPECT_EQ(NumberRaisedBy([&] { HeaderOf(opened.x); }), 9);
+    EXPECT_EQ(opened.x.Section(), "");
+    opened.x.CloseXMLFile();
+
+    XMLFile reading;
+    reading.FileName(opened.file.Path());
+    for (int depth = 0; depth < 17; ++depth)
+        HeaderOf(reading);
+    EXPECT_EQ(NumberRaisedBy([&] { HeaderOf(reading); }), 9);
+    EXPECT_EQ(NumberRaisedBy([&] { XMLFile().SectionIndex(); }), 9);
+}
+
+TEST(XMLFile, ReadsALineOfVeryManyEmptyMembers) {
+    constexpr int members = 200000;
+    String bytes = kHeader;
+    for (int i = 0; i < members; ++i)
+        bytes += "<a/>";
+    Opened opened(bytes);
+    for (int i = 0; i < members; ++i) {
+        ASSERT_EQ(HeaderOf(opened.x), "a");
+        ASSERT_EQ(HeaderOf(opened.x), "/a");
+    }
+    EXPECT_EQ(NumberRaisedBy([&] { HeaderOf(opened.x); }), 1051);
+}
+
+} // namespace
+} // namespace zorvane
