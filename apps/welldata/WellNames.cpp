@@ -1,5 +1,6 @@
 #include "apps/welldata/WellNames.h"
 
+#include "control/LegendLabels.h"
 #include "runtime/Text.h"
 
 #include <string>
@@ -7,17 +8,6 @@
 namespace zorvane {
 
 namespace {
-
-/// Column legends are labels of their own between the row legends of the last two rows.
-String RowLegend(const Plate& plate, Integer row) {
-    const int last = plate.Rows - 1;
-    const int label = row < last ? row + 1 : plate.Rows + plate.Cols;
-    return plate.Elements().lblWell[static_cast<std::size_t>(label)].caption;
-}
-
-String ColumnLegend(const Plate& plate, Integer col) {
-    return plate.Elements().lblWell[static_cast<std::size_t>(plate.Rows + col)].caption;
-}
 
 std::vector<String> SubWellNames(Plate& plate) {
     const Integer chosen = plate.WellIndex() == 0 ? Integer{1} : plate.WellIndex();
@@ -35,9 +25,9 @@ std::vector<String> SubWellNames(Plate& plate) {
 WellNames::WellNames(Plate& plate) {
     if (plate.TotalWells() < 1) return;
     for (Integer row = 0; row < plate.Rows; ++row)
-        rows_.push_back(RowLegend(plate, row));
+        rows_.push_back(RowLegend(plate, row).caption);
     for (Integer col = 0; col < plate.Cols; ++col)
-        cols_.push_back(ColumnLegend(plate, col));
+        cols_.push_back(ColumnLegend(plate, col).caption);
     subWells_ = SubWellNames(plate);
 
     if (IndexLegends()) return;

@@ -11,21 +11,7 @@ bool IsHit(const Label& legend, Single x, Single y) {
     return legend.visible && box.left <= x && x < box.Right() && box.top <= y && y < box.Bottom();
 }
 
-const Label& LabelNumber(const Plate& plate, int number) {
-    return plate.Elements().lblWell[static_cast<std::size_t>(number)];
-}
-
 } // namespace
-
-// The column legends stand between the row legends of the last two rows.
-
-const Label& RowLegend(const Plate& plate, Integer row) {
-    return LabelNumber(plate, row < plate.Rows - 1 ? row + 1 : plate.Rows + plate.Cols);
-}
-
-const Label& ColumnLegend(const Plate& plate, Integer col) {
-    return LabelNumber(plate, plate.Rows + col);
-}
 
 std::optional<GridLine> LegendAt(const Plate& plate, Single x, Single y) {
     if (plate.TotalWells() < 1) return std::nullopt;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "control/Plate.h"
+#include "control/LegendLabels.h"
 
 #include <optional>
 
@@ -11,11 +11,6 @@ struct GridLine {
     bool isRow;
     Integer number;
 };
-
-// Where the legends of a control stand among its labels. Only for lines of the grid that exist.
-
-const Label& RowLegend(const Plate& plate, Integer row);
-const Label& ColumnLegend(const Plate& plate, Integer col);
 
 /// The line whose legend is shown at a place of the plate area, in drawing units.
 std::optional<GridLine> LegendAt(const Plate& plate, Single x, Single y);

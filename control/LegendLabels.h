@@ -1,0 +1,13 @@
+#pragma once
+
+#include "control/Plate.h"
+
+namespace zorvane {
+
+// Where the legends of a control stand among its labels. Only for lines of the grid that exist, of
+// a plate that has wells.
+
+const Label& RowLegend(const Plate& plate, Integer row);
+const Label& ColumnLegend(const Plate& plate, Integer col);
+
+} // namespace zorvane
