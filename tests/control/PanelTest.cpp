@@ -94,6 +94,9 @@ TEST_F(PanelTest, TheTagPageWaitsForNewTagsWhileItCanBeEdited) {
     plate.EditEnable(false);
     plate.PageChosen(1);
     EXPECT_EQ(Rows(), "No Tags Defined");
+    Load(GridText(1, 1, "", "TAGLIST a b c d e f g h i j k l m n\r\n"));
+    plate.PageChosen(1);
+    EXPECT_TRUE(Rows().ends_with("; Tag 12=l")) << Rows();
 }
 
 TEST_F(PanelTest, EditEnableDecidesWhatTheOperatorCanUse) {
@@ -156,8 +159,10 @@ TEST_F(PanelTest, ApplyTakesThePageOver) {
         EXPECT_TRUE(plate.DataVisible());
         EXPECT_FALSE(Panel().cmdApply.enabled);
     };
+    plate.WellAnnotation(0, "note");
     apply(0, [&] { plate.CommentTyped("new\r\nlost, as no line ends it"); });
     EXPECT_EQ(Panel().txtComment.text, "new\r\n");
+    EXPECT_EQ(plate.WellAnnotation(0), "note") << "what the host shows on wells stays";
 
     apply(1, [&] {
         Type("Tag 1", "  x ");

@@ -99,6 +99,17 @@ TEST_F(SubWellCommandsTest, ANewSubWellIsACopyOfTheOneBeforeIt) {
     EXPECT_EQ(Pages(), "[Comments], Tags, General Properties, A Well, B Well, C Well, N Well");
 }
 
+TEST_F(SubWellCommandsTest, ApplyWaitsOnEveryPageUntilTheNextLayout) {
+    EXPECT_EQ(Run(mnuRemoveSubWell, 3), 0);
+    for (Integer page = 0; page < 5; ++page) {
+        plate.PageChosen(page);
+        EXPECT_TRUE(MarkedEdited()) << page;
+    }
+    plate.DrawingScale(plate.DrawingScale());
+    EXPECT_FALSE(Panel().cmdApply.enabled);
+    EXPECT_NE(plate.MouseToWell(500, 500), -1);
+}
+
 TEST_F(SubWellCommandsTest, EveryCommandAsksInItsOwnWords) {
     const auto asks = [&](SubWellCommand command, const String& prompt, const String& title,
                           const String& preset) {
@@ -143,7 +154,9 @@ TEST_F(SubWellCommandsTest, ShiftsMoveEverySubWellByTheNumberTyped) {
         EXPECT_EQ(MarkedEdited(), shifted) << each.answer;
     }
     Reload();
+    plate.WellAnnotation(0, "note");
     EXPECT_EQ(Run(mnuRotate90, 0), 0);
+    EXPECT_EQ(plate.WellAnnotation(0), "");
     EXPECT_EQ(std::pair(plate.Rows, plate.Cols), std::pair(Integer{3}, Integer{2}));
     EXPECT_TRUE(MarkedEdited() && plate.DataVisible());
 }
