@@ -4,6 +4,7 @@
 #include "runtime/Text.h"
 #include "runtime/Types.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 #include <memory>
@@ -25,13 +26,17 @@ class KeyedStore {
   public:
     using Pointer = std::shared_ptr<T>;
 
-    Long Count() const { return static_cast<Long>(nodes_.size()); }
+    Long Count() const { return static_cast<Long>(nodes_.size() - holes_); }
 
-    void Append(std::string_view key, Pointer item) { Insert(nodes_.size(), key, std::move(item)); }
+    void Append(std::string_view key, Pointer item) {
+        if (holes_ > nodes_.size() / 2) CloseHoles();
+        Insert(nodes_.size(), key, std::move(item));
+    }
 
     /// Inserts so that the entry stands directly after `position`; position 0 is the front.
     void InsertAfter(Long position, std::string_view key, Pointer item) {
         if (position < 0 || position > Count()) Raise(ErrorNumber::SubscriptOutOfRange);
+        CloseHoles();
         Insert(static_cast<std::size_t>(position), key, std::move(item));
     }
 
@@ -55,7 +60,7 @@ class KeyedStore {
     /// The object behind the one found last when its key is these two parts in a row, or null: a
     /// quick first try for look-ups in list order, which need not join the parts then.
     T* FindNext(std::string_view first, std::string_view rest) const {
-        if (expected_ >= nodes_.size()) return nullptr;
+        if (!IsEntry(expected_)) return nullptr;
         const std::string_view key = nodes_[expected_]->key;
         const bool same = key.size() == first.size() + rest.size() &&
                           EqualNoCase(key.substr(0, first.size()), first) &&
@@ -71,8 +76,9 @@ class KeyedStore {
 
     /// The position of a key, or 0.
     Long PositionOf(std::string_view key) const {
+        CloseHoles();
         const Node* const node = FindNode(key);
-        return node ? PositionOf(*node) : 0;
+        return node ? static_cast<Long>(node->index) + 1 : 0;
     }
 
     void Remove(Long position) {
@@ -81,11 +87,20 @@ class KeyedStore {
         nodes_.erase(nodes_.begin() + static_cast<std::ptrdiff_t>(index));
         NumberFrom(index);
     }
-    void Remove(std::string_view key) { Remove(PositionOf(NodeOf(key))); }
+
+    /// Takes the same time wherever the entry stands.
+    void Remove(std::string_view key) {
+        const std::size_t index = NodeOf(key).index;
+        byKey_.erase(nodes_[index]->key);
+        nodes_[index].reset();
+        firstHole_ = holes_ == 0 ? index : std::min(firstHole_, index);
+        ++holes_;
+    }
 
     void Clear() {
         byKey_.clear();
         nodes_.clear();
+        holes_ = 0;
     }
 
   private:
@@ -123,40 +138,53 @@ class KeyedStore {
       private:
         typename Nodes::const_iterator at_;
     };
-    Iterator begin() const { return Iterator(nodes_.begin()); }
-    Iterator end() const { return Iterator(nodes_.end()); }
+    Iterator begin() const { return CloseHoles(), Iterator(nodes_.begin()); }
+    Iterator end() const { return CloseHoles(), Iterator(nodes_.end()); }
 
   private:
     void Insert(std::size_t index, std::string_view key, Pointer item) {
-        if (FindNode(key)) Raise(ErrorNumber::DuplicateKey);
         auto node = std::make_unique<Node>(Node{String(key), std::move(item)});
+        AddKey(*node);
         nodes_.insert(nodes_.begin() + static_cast<std::ptrdiff_t>(index), std::move(node));
         NumberFrom(index);
-        HashKeys(index);
     }
 
-    /// Keeps the hash up with a new entry; a short list has none, its keys are searched one by one.
-    /// The hash looks into the nodes, which never move.
-    void HashKeys(std::size_t added) {
-        if (!byKey_.empty()) {
-            byKey_.emplace(nodes_[added]->key, nodes_[added].get());
-        } else if (nodes_.size() > kSearched) {
+    /// Takes in the key of an entry to come. A short list has no hash, its keys are searched one by
+    /// one. The hash looks into the nodes, which never move.
+    void AddKey(Node& added) {
+        if (byKey_.empty()) {
+            if (SearchNode(added.key)) Raise(ErrorNumber::DuplicateKey);
+            if (nodes_.size() < kSearched) return;
             for (const auto& node : nodes_)
-                byKey_.emplace(node->key, node.get());
+                if (node) byKey_.emplace(node->key, node.get());
         }
+        if (!byKey_.try_emplace(added.key, &added).second) Raise(ErrorNumber::DuplicateKey);
     }
 
-    void NumberFrom(std::size_t index) {
+    void NumberFrom(std::size_t index) const {
         for (; index < nodes_.size(); ++index)
             nodes_[index]->index = index;
     }
 
+    bool IsEntry(std::size_t index) const { return index < nodes_.size() && nodes_[index]; }
+
+    /// Makes the indexes positions again.
+    void CloseHoles() const {
+        if (holes_ == 0) return;
+        nodes_.erase(std::remove(nodes_.begin() + static_cast<std::ptrdiff_t>(firstHole_),
+                                 nodes_.end(), nullptr),
+                     nodes_.end());
+        NumberFrom(firstHole_);
+        holes_ = 0;
+    }
+
     std::size_t IndexOf(Long position) const {
         if (position < 1 || position > Count()) Raise(ErrorNumber::SubscriptOutOfRange);
+        CloseHoles();
         return static_cast<std::size_t>(position - 1);
     }
     const Node* FindNode(std::string_view key) const {
-        if (expected_ < nodes_.size() && EqualNoCase(nodes_[expected_]->key, key))
+        if (IsEntry(expected_) && EqualNoCase(nodes_[expected_]->key, key))
             return nodes_[expected_++].get();
         const Node* const node = byKey_.empty() ? SearchNode(key) : HashedNode(key);
         if (node) expected_ = node->index + 1;
@@ -164,7 +192,7 @@ class KeyedStore {
     }
     const Node* SearchNode(std::string_view key) const {
         for (const auto& node : nodes_)
-            if (EqualNoCase(node->key, key)) return node.get();
+            if (node && EqualNoCase(node->key, key)) return node.get();
         return nullptr;
     }
     const Node* HashedNode(std::string_view key) const {
@@ -176,11 +204,13 @@ class KeyedStore {
         if (!node) Raise(ErrorNumber::InvalidProcedureCall);
         return *node;
     }
-    static Long PositionOf(const Node& node) { return static_cast<Long>(node.index) + 1; }
 
     static constexpr std::size_t kSearched = 8;
 
-    Nodes nodes_;
+    // Removing by key leaves a hole, which is closed before positions are asked for.
+    mutable Nodes nodes_;
+    mutable std::size_t holes_ = 0;
+    mutable std::size_t firstHole_ = 0; ///< where there are holes
     std::unordered_map<std::string_view, Node*, Hash, Equal> byKey_;
     mutable std::size_t expected_ = 0; ///< where the next look-up tries first
 };
