@@ -13,7 +13,7 @@ namespace {
 constexpr int kFirstLargeExponent = 15;
 constexpr int kLastSmallExponent = -5;
 
-constexpr std::string_view kSigns = "+-";
+bool IsSign(char c) { return c == '+' || c == '-'; }
 
 /// What a picture asks for on each side of its point.
 struct Picture {
@@ -30,44 +30,42 @@ struct Picture {
 
 /// Takes the exponent off the end of a picture.
 std::string_view TakeExponent(std::string_view& text) {
-    const std::size_t at = std::min(text.find_first_of("Ee"), text.size());
+    const std::size_t at = text.find_first_of("Ee");
+    if (at == text.npos) return {};
     const std::string_view exponent = text.substr(at);
     text = text.substr(0, at);
-    const bool whole =
-        exponent.empty() || (exponent.size() >= 3 && kSigns.find(exponent[1]) != kSigns.npos &&
-                             exponent.find_first_not_of('0', 2) == exponent.npos);
+    const bool whole = exponent.size() >= 3 && IsSign(exponent[1]) &&
+                       exponent.find_first_not_of('0', 2) == exponent.npos;
     if (!whole) Raise(ErrorNumber::InvalidProcedureCall);
     return exponent;
 }
 
-/// Takes the commas out of the digits before the point; true when there were some, each of which
-/// must stand between two digits.
-bool TakeCommas(String& whole) {
-    if (whole.find(',') == whole.npos) return false;
-    if (whole.front() == ',' || whole.back() == ',') Raise(ErrorNumber::InvalidProcedureCall);
-    whole.erase(std::remove(whole.begin(), whole.end(), ','), whole.end());
-    return true;
+/// Takes in the places before the point. Commas stand between two of them.
+void ReadWhole(Picture& picture, std::string_view whole) {
+    picture.grouped = whole.find(',') != whole.npos;
+    if (whole.starts_with(',') || whole.ends_with(',')) Raise(ErrorNumber::InvalidProcedureCall);
+    for (const char c : whole) {
+        if (c == ',') continue;
+        ++picture.wholePlaces;
+        if (c == '0' || picture.leastWhole > 0) ++picture.leastWhole;
+    }
 }
 
 Picture ParsePicture(std::string_view text) {
     Picture picture;
-    if (!text.empty() && kSigns.find(text[0]) != kSigns.npos) {
+    if (!text.empty() && IsSign(text[0])) {
         picture.plus = text[0] == '+';
         text.remove_prefix(1);
     }
     picture.percent = text.ends_with('%');
     if (picture.percent) text.remove_suffix(1);
     picture.exponent = TakeExponent(text);
+    if (text.find_first_not_of("0#.,") != text.npos) Raise(ErrorNumber::InvalidProcedureCall);
     const std::size_t point = text.find('.');
     picture.point = point != text.npos;
-    String whole(text.substr(0, point));
-    picture.grouped = TakeCommas(whole);
+    ReadWhole(picture, text.substr(0, point));
     const std::string_view places = picture.point ? text.substr(point + 1) : "";
-    if (whole.find_first_not_of("0#") != whole.npos ||
-        places.find_first_not_of("0#") != places.npos)
-        Raise(ErrorNumber::InvalidProcedureCall);
-    picture.wholePlaces = static_cast<int>(whole.size());
-    picture.leastWhole = static_cast<int>(whole.size() - std::min(whole.find('0'), whole.size()));
+    if (places.find_first_of(".,") != places.npos) Raise(ErrorNumber::InvalidProcedureCall);
     picture.leastPlaces = static_cast<int>(places.rfind('0') + 1);
     picture.mostPlaces = static_cast<int>(places.size());
     return picture;
@@ -79,7 +77,7 @@ String FixedDigits(const Decimal& decimal, int whole, int places, bool point,
     String text;
     for (int power = whole - 1; power >= 0; --power) {
         text += decimal.DigitAt(power);
-        if (grouped && power > 0 && power % 3 == 0) text += ',';
+        if (grouped && power % 3 == 0 && power > 0) text += ',';
     }
     if (point) text += '.';
     for (int power = -1; power >= -places; --power)
@@ -128,8 +126,8 @@ int FitToPicture(Decimal& decimal, const Picture& picture) {
     return power;
 }
 
+/// Writes an exponent as the picture has it: "E+00", "e-0".
 String PictureExponent(int power, std::string_view picture) {
-    if (picture.empty()) return {};
     const char* const sign = power < 0 ? "-" : picture[1] == '+' ? "+" : "";
     return picture[0] + (sign + PowerText(power, picture.size() - 2));
 }
@@ -142,10 +140,11 @@ String FormatPicture(Double value, std::string_view picture) {
     if (wanted.percent && !decimal.digits.empty()) decimal.exponent += 2;
     const int power = FitToPicture(decimal, wanted);
     const int whole = decimal.digits.empty() ? 0 : decimal.exponent + 1;
-    const String text =
+    String text =
         FixedDigits(decimal, std::max(whole, wanted.leastWhole),
-                    std::max(PlacesOf(decimal), wanted.leastPlaces), wanted.point, wanted.grouped) +
-        PictureExponent(power, wanted.exponent) + (wanted.percent ? "%" : "");
+                    std::max(PlacesOf(decimal), wanted.leastPlaces), wanted.point, wanted.grouped);
+    if (!wanted.exponent.empty()) text += PictureExponent(power, wanted.exponent);
+    if (wanted.percent) text += '%';
     if (decimal.negative) return "-" + text;
     return wanted.plus && !decimal.digits.empty() ? "+" + text : text;
 }
