@@ -25,8 +25,10 @@ enum RegistryType : Long {
 };
 
 /// Predefined root keys, and the access rights that the system asks for.
-inline constexpr Long kLocalMachine = static_cast<Long>(0x80000002U);
+inline constexpr Long kClassesRoot = static_cast<Long>(0x80000000U);
 inline constexpr Long kCurrentUser = static_cast<Long>(0x80000001U);
+inline constexpr Long kLocalMachine = static_cast<Long>(0x80000002U);
+inline constexpr Long kUsers = static_cast<Long>(0x80000003U);
 inline constexpr Long kReadAccess = 0x20019;
 inline constexpr Long kAllAccess = 0xF003F;
 

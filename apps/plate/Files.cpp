@@ -1,14 +1,37 @@
 #include "apps/plate/Files.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <random>
+#include <system_error>
 
 namespace zorvane {
 
 namespace {
 
 constexpr Long kToolFailure = 1;
+
+namespace fs = std::filesystem;
+
+/// A file that goes away unless it has been moved.
+class TemporaryFile {
+  public:
+    explicit TemporaryFile(const fs::path& beside)
+        : path_(beside.string() + "." + std::to_string(std::random_device()()) + ".tmp") {}
+    ~TemporaryFile() {
+        std::error_code ignored;
+        fs::remove(path_, ignored);
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    const fs::path& Path() const { return path_; }
+
+  private:
+    fs::path path_;
+};
 
 bool IsStandard(const String& file) { return file.empty() || file == "-"; }
 
@@ -22,6 +45,21 @@ void WriteAll(const String& file, std::string_view text) {
     std::ostream& out = IsStandard(file) ? std::cout : opened;
     out.write(text.data(), static_cast<std::streamsize>(text.size())).flush();
     if (!out) Fail((IsStandard(file) ? String("standard output") : file) + ": cannot be written");
+}
+
+void ReplaceFile(const String& file, const std::function<void(const String& temporary)>& write) {
+    try {
+        // Of a link, what it points at is replaced.
+        const fs::path target = fs::weakly_canonical(file);
+        const fs::file_status old = fs::status(target);
+        if (fs::exists(old) && !fs::is_regular_file(old)) Fail(file + ": is not a file");
+        const TemporaryFile temporary(target);
+        write(temporary.Path().string());
+        if (fs::exists(old)) fs::permissions(temporary.Path(), old.permissions());
+        fs::rename(temporary.Path(), target);
+    } catch (const fs::filesystem_error& error) {
+        Fail(file + ": cannot be replaced: " + error.code().message());
+    }
 }
 
 String ReadAll(const String& file) {

@@ -1,0 +1,112 @@
+#include "ToolRun.h"
+
+namespace zorvane {
+namespace {
+
+/// A folder of its own for one test, with the tool run in it.
+struct PairsFolder {
+    PairsFolder() { std::filesystem::create_directory(path); }
+    ~PairsFolder() { std::filesystem::remove_all(path); }
+
+    ToolRun Pairs(const String& arguments) const {
+        return ToolRun("cd " + Quoted(path) + "; " + Quoted(PLATE_TOOL) + " pairs " + arguments,
+                       "");
+    }
+    void Write(const String& bytes) const {
+        std::ofstream(path + "/a.xml", std::ios::binary) << bytes;
+    }
+    String Bytes() const { return BytesOf(path + "/a.xml"); }
+    auto Files() const {
+        const std::filesystem::directory_iterator files(path);
+        return std::distance(begin(files), end(files));
+    }
+
+    const String path = testing::TempDir() + "plate_tool_pairs";
+};
+
+String Saved(const String& lines) {
+    return "<?xml version=\"1.0\"?>\r\n<PairList>\r\n" + lines + "</PairList>\r\n";
+}
+
+TEST(PlatePairs, ShowsAndChangesAList) {
+    const PairsFolder folder;
+    const struct {
+        const char* arguments;
+        const char* out;
+        const char* err;
+    } steps[] = {
+        {"a.xml --set Colour=Red --set 'Size=\"a\"=<b>'",
+         "name    value\nColour  Red\nSize    \"a\"=<b>\n", ""},
+        {"a.xml --csv", "name,value\nColour,Red\nSize,\"\"\"a\"\"=<b>\"\n", ""},
+        {"a.xml --remove size --set colour= --json",
+         "[\n  {\"name\": \"Colour\", \"value\": \"\"}\n]\n", ""},
+        {"a.xml --set Same=SAME --set 'Lines=a\n b' --csv",
+         "name,value\nColour,\nSame,SAME\nLines,\"a\n b\"\n",
+         "plate: warning: Same: is not kept, because its value is its name\n"
+         "plate: warning: Lines: its value is not kept as it is\n"},
+        {"a.xml --csv", "name,value\nColour,\nLines,ab\n", ""},
+    };
+    for (const auto& step : steps) {
+        const ToolRun run = folder.Pairs(step.arguments);
+        EXPECT_EQ(run.exitCode, 0) << step.arguments;
+        EXPECT_EQ(run.out, step.out) << step.arguments;
+        EXPECT_EQ(run.err, step.err) << step.arguments;
+    }
+    EXPECT_EQ(folder.Files(), 1);
+}
+
+TEST(PlatePairs, WritesTheNameOfAListBackAsItWas) {
+    const PairsFolder folder;
+    const String name = " <Name>&quot;The &quot;&quot;best&quot;&quot; tags&quot;</Name>\r\n";
+    const String field = " <Field Name=\"A\">\r\n  <Name>A</Name>\r\n  <Value>1</Value>\r\n"
+                         " </Field>\r\n";
+    folder.Write(Saved(name));
+    for (int round = 0; round < 2; ++round) {
+        folder.Pairs("a.xml --set A=1");
+        EXPECT_EQ(folder.Bytes(), Saved(name + field));
+    }
+}
+
+TEST(PlatePairs, LeavesTheFileAloneWhenItFails) {
+    const PairsFolder folder;
+    std::filesystem::create_directory(folder.path + "/folder");
+    const String list = Saved(" <Name>&quot;N&quot;</Name>\r\n");
+    const struct {
+        String bytes;
+        const char* arguments;
+        int exitCode;
+        const char* err; ///< null for any
+    } rows[] = {
+        {list, "a.xml --set 'a>b=1'", 1,
+         "plate: a.xml: not changed: a name with a \">\" or a line break in it cannot be saved\n"},
+        {list, "a.xml --set B=1 --remove A", 1, "plate: a.xml: there is no pair \"A\" to remove\n"},
+        {list + "<PairList></PairList>", "a.xml --set B=1", 1,
+         "plate: a.xml: holds more than a list of pairs, and is not changed\n"},
+        {list, "a.xml --set B=1 >/dev/full", 1, "plate: standard output: cannot be written\n"},
+        {list.substr(0, 35), "a.xml --set B=1", 1,
+         "plate: Could not read data from XMLFile <a.xml>\n"},
+        {"plain", "a.xml", 1, "plate: Could not open XMLFile <a.xml> for reading.\n"},
+        {Saved("<Name\r\n"), "a.xml", 1, "plate: XML section header missing in file a.xml\n"},
+        {list, "missing.xml", 1, "plate: Could not open XMLFile <missing.xml> for reading.\n"},
+        {list, "missing/a.xml --set A=1", 1, "plate: missing/a.xml: cannot be written\n"},
+        {list, "folder --set A=1", 1, "plate: Could not open XMLFile <folder> for reading.\n"},
+        {list, "a.xml --from-registry NO_ROOT\\\\KEY", 1, nullptr},
+        {list, "a.xml --set =1", 2, nullptr},
+        {list, "a.xml --set A", 2, nullptr},
+    };
+    for (const auto& row : rows) {
+        folder.Write(row.bytes);
+        const ToolRun run = folder.Pairs(row.arguments);
+        EXPECT_EQ(run.exitCode, row.exitCode) << row.arguments;
+        if (row.err) {
+            EXPECT_EQ(run.err, row.err) << row.arguments;
+        }
+        if (String(row.arguments).find("/dev/full") == String::npos) {
+            EXPECT_EQ(folder.Bytes(), row.bytes) << row.arguments;
+        }
+        EXPECT_EQ(folder.Files(), 2) << row.arguments;
+    }
+}
+
+} // namespace
+} // namespace zorvane
