@@ -8,7 +8,7 @@
 namespace zorvane {
 
 std::shared_ptr<StringEntry> StringList::Add(std::string_view value) {
-    Size = CheckedLong(Size) + CharacterCount(value);
+    Size = CheckedLong(Size) + CheckedLong(CharacterCount(value));
     while (Count() >= 2 && Size > MaxSize)
         DropOldest();
     entries_.push_back(std::make_shared<StringEntry>(StringEntry{String(value)}));
@@ -17,7 +17,7 @@ std::shared_ptr<StringEntry> StringList::Add(std::string_view value) {
 }
 
 void StringList::DropOldest() {
-    Size = CheckedLong(Size) - CharacterCount(entries_.front()->Text);
+    Size = CheckedLong(Size) - CheckedLong(CharacterCount(entries_.front()->Text));
     entries_.pop_front();
 }
 
