@@ -63,12 +63,4 @@ const String& XMLFile::SectionImage() const { return images_.At(depth_ - 1); }
 
 const String& XMLFile::SectionIndex() const { return indexes_.At(depth_ - 1); }
 
-void XMLFile::CloseXMLFile() {
-    openForReading_ = false;
-    openForWriting_ = false;
-    // Only the output can fail to be closed, so it comes last.
-    input_.Close();
-    output_.Close();
-}
-
 } // namespace zorvane

@@ -3,6 +3,7 @@
 #include "runtime/TextFile.h"
 #include "runtime/Types.h"
 #include "support/SectionSlots.h"
+#include "support/XMLBuffer.h"
 
 #include <initializer_list>
 #include <string_view>
@@ -60,7 +61,8 @@ class XMLFile {
     void WriteXMLFloatValue(std::string_view memberName, std::string_view memberValue,
                             std::string_view formatString = {}, Boolean suppressZero = false);
 
-    /// Finishes the file. Sections that are open stay so, for a file that is then begun.
+    /// Finishes the file. Sections that are open stay so, for a file that is then begun. Error 1053
+    /// when the last of it cannot be written; it is closed all the same.
     void CloseXMLFile();
 
     /// Goes to the next tag and gives its name, that of an end with its slash.
@@ -80,14 +82,12 @@ class XMLFile {
   private:
     void WriteLine(std::initializer_list<std::string_view> parts);
     void WriteIndented(std::initializer_list<std::string_view> parts);
+    [[noreturn]] void RaiseNotWritten() const;
 
     std::string_view ReadBuffer();
     void OpenForReading();
     void ReadHeaderLine();
     void ReadNextLine();
-    std::string_view Rest() const { return std::string_view(buffer_).substr(at_); }
-    std::string_view Take(std::size_t length);
-    void PutBack(std::string_view text);
 
     String EndSection(std::string_view tag);
     String BeginSection(std::string_view tag);
@@ -100,8 +100,7 @@ class XMLFile {
     SectionSlots indexes_;
     SectionSlots images_;
     Integer depth_ = 0; ///< open sections; below 0 after one end too many
-    String buffer_;     ///< the present input line, read up to at_
-    std::size_t at_ = 0;
+    XMLBuffer buffer_;
     String written_; ///< the line being written
     TextFile input_;
     TextFile output_;

@@ -33,13 +33,13 @@ String XMLFile::ReadXMLSectionHeader() {
     indexes_.At(depth_).clear();
     images_.At(depth_).clear();
     const std::string_view buffer = ReadBuffer();
-    Take(buffer.find('<') + 1); // nothing when there is none
-    const std::size_t end = Rest().find('>');
+    buffer_.Take(buffer.find('<') + 1); // nothing when there is none
+    const std::size_t end = buffer_.Rest().find('>');
     if (end == String::npos) {
         throw RuntimeError(kBadTag, "XML section header missing in file " + fileName_,
                            "Application-defined or object-defined error");
     }
-    const std::string_view tag = Take(end + 1).substr(0, end);
+    const std::string_view tag = buffer_.Take(end + 1).substr(0, end);
     return tag.starts_with('/') ? EndSection(tag) : BeginSection(tag);
 }
 
@@ -56,7 +56,7 @@ String XMLFile::BeginSection(std::string_view tag) {
         // An empty member reads as a section that ends at once.
         name.pop_back();
         name = TrimSpaces(name);
-        PutBack("</" + name + ">");
+        buffer_.PutBack("</" + name + ">");
     }
     sections_.At(depth_) = name;
     ++depth_;
@@ -98,9 +98,9 @@ String XMLFile::ReadXMLData() {
     String data;
     std::size_t tag = 0;
     while ((tag = ReadBuffer().find('<')) == String::npos)
-        data += Take(Rest().size());
-    data += Take(tag);
-    if (Rest().starts_with("</")) {
+        data += buffer_.Take(buffer_.Rest().size());
+    data += buffer_.Take(tag);
+    if (buffer_.Rest().starts_with("</")) {
         EndData();
     } else {
         sectionComplete_ = false;
@@ -110,9 +110,10 @@ String XMLFile::ReadXMLData() {
 
 /// Takes the tag that ends the section off with its data. One that is cut off ends nothing.
 void XMLFile::EndData() {
-    const std::size_t end = Rest().find('>');
+    const std::size_t end = buffer_.Rest().find('>');
     const bool whole = end != String::npos;
-    const std::string_view name = whole ? Take(end + 1).substr(2, end - 2) : std::string_view();
+    const std::string_view name =
+        whole ? buffer_.Take(end + 1).substr(2, end - 2) : std::string_view();
     sectionComplete_ = whole && name == sections_.At(depth_ - 1);
     if (!sectionComplete_) RaiseSectionEnd();
     --depth_;
@@ -128,9 +129,9 @@ void XMLFile::RaiseSectionEnd() const {
 
 std::string_view XMLFile::ReadBuffer() {
     if (!openForReading_) OpenForReading();
-    while (Rest().empty())
+    while (buffer_.Rest().empty())
         ReadNextLine();
-    return Rest();
+    return buffer_.Rest();
 }
 
 void XMLFile::OpenForReading() {
@@ -147,42 +148,19 @@ void XMLFile::OpenForReading() {
 
 /// A line that is no header stays in the buffer, and reading on begins with it.
 void XMLFile::ReadHeaderLine() {
-    buffer_ = TrimSpaces(input_.ReadLine());
-    at_ = 0;
-    if (!IsHeaderLine(buffer_)) throw RuntimeError(kNotRead, "XMLFile", "No header line");
-    buffer_.clear();
+    buffer_.Set(String(TrimSpaces(input_.ReadLine())));
+    if (!IsHeaderLine(buffer_.Rest())) throw RuntimeError(kNotRead, "XMLFile", "No header line");
+    buffer_.Set({});
 }
 
 void XMLFile::ReadNextLine() {
     try {
-        input_.ReadLine(buffer_);
-        buffer_.resize(TrimEnd(buffer_).size());
-        at_ = buffer_.size() - TrimStart(buffer_).size();
+        buffer_.ReadLine(input_);
     } catch (const RuntimeError&) {
-        buffer_.clear();
-        at_ = 0;
         input_.Close();
         throw RuntimeError(kNotRead, "XMLFile",
                            "Could not read data from XMLFile <" + fileName_ + ">");
     }
-}
-
-/// Takes text off the front of the buffer. Good until the next line is read.
-std::string_view XMLFile::Take(std::size_t length) {
-    const std::string_view taken = Rest().substr(0, length);
-    at_ += length;
-    return taken;
-}
-
-/// Puts text in front of the buffer, in the place of what was taken: a line may hold very many
-/// empty members.
-void XMLFile::PutBack(std::string_view text) {
-    if (at_ < text.size()) {
-        buffer_.insert(0, text.size() - at_, ' ');
-        at_ = text.size();
-    }
-    at_ -= text.size();
-    buffer_.replace(at_, text.size(), text);
 }
 
 } // namespace zorvane

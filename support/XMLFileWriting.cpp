@@ -76,8 +76,7 @@ void XMLFile::WriteLine(std::initializer_list<std::string_view> parts) {
     } catch (const RuntimeError&) {
         openForWriting_ = false;
         output_ = TextFile();
-        throw RuntimeError(kNotWritten, "XMLFile",
-                           "Could not write data to XMLFile <" + fileName_ + ">");
+        RaiseNotWritten();
     }
 }
 
@@ -86,6 +85,22 @@ void XMLFile::WriteIndented(std::initializer_list<std::string_view> parts) {
     for (const std::string_view part : parts)
         written_ += part;
     output_.WriteLine(written_);
+}
+
+void XMLFile::RaiseNotWritten() const {
+    throw RuntimeError(kNotWritten, "XMLFile",
+                       "Could not write data to XMLFile <" + fileName_ + ">");
+}
+
+void XMLFile::CloseXMLFile() {
+    openForReading_ = false;
+    openForWriting_ = false;
+    input_.Close();
+    try {
+        output_.Close();
+    } catch (const RuntimeError&) {
+        RaiseNotWritten();
+    }
 }
 
 } // namespace zorvane

@@ -3,6 +3,7 @@
 #include "Raised.h"
 #include "TempFile.h"
 
+#include <filesystem>
 #include <functional>
 
 namespace zorvane {
@@ -207,6 +208,13 @@ TEST(XMLFile, SaysThatTheFileCannotBeWritten) {
     EXPECT_EQ(Raised(path, [&] { x.WriteXMLData("x"); }),
               "1053 XMLFile: Could not write data to XMLFile <FILE>");
     EXPECT_FALSE(x.IsOpenForWriting());
+    const String full = "/dev/full";
+    if (std::filesystem::exists(full)) {
+        x.FileName(full);
+        x.WriteXMLData("kept back until the file is closed");
+        EXPECT_EQ(Raised(full, [&] { x.CloseXMLFile(); }),
+                  "1053 XMLFile: Could not write data to XMLFile <FILE>");
+    }
     const TempFile file;
     x.FileName(file.Path());
     x.WriteXMLData("x");
