@@ -14,9 +14,11 @@ constexpr Long kEndOfFile = 1051;
 
 /// What an error of a file says, with the file's name in it.
 String WordsFor(const RuntimeError& error, const String& file) {
-    for (const String& words : {error.Description(), error.Source()})
-        if (words.find(file) != words.npos) return words;
-    return file + ": " + error.Description();
+    for (const String& words : {error.Description(), error.Source()}) {
+        const bool named = words.find("<" + file + ">") != words.npos;
+        if (named || words.ends_with(" in file " + file)) return words;
+    }
+    return file + ": sections are nested too deeply, or end before they begin";
 }
 
 /// A text without quotes around it, and with those inside single again.

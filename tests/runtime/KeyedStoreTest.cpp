@@ -62,17 +62,5 @@ TEST(KeyedStore, KeepsItsOrderThroughRandomChanges) {
     }
 }
 
-TEST(KeyedStore, ReplacesEveryEntryOfALargeStore) {
-    constexpr int entries = 100000;
-    KeyedStore<int> store;
-    for (int i = 0; i < 2 * entries; ++i) {
-        const String key = std::to_string(i % entries);
-        if (i >= entries) store.Remove(key);
-        store.Append(key, std::make_shared<int>(i));
-    }
-    EXPECT_EQ(*store.Item(1), entries);
-    EXPECT_EQ(std::distance(store.begin(), store.end()), entries);
-}
-
 } // namespace
 } // namespace zorvane

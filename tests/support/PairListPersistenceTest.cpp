@@ -142,16 +142,6 @@ TEST(PairListXML, ReadsRandomListsBack) {
     }
 }
 
-TEST(PairListXML, RefusesNamesThatItsTagsCannotHold) {
-    for (const char* const name : {"a>b", "a\"=", "a\nb"}) {
-        const TempFile file;
-        TStringPairList list;
-        Fill(list, {{name, "1"}});
-        Write(list, file.Path());
-        EXPECT_EQ(NumberRaisedBy([&] { Read(list, file.Path()); }), 1055) << name;
-    }
-}
-
 TEST(PairListXML, HoldsAMegabyteInAValueAndMorePairsThanSixteenBitsCount) {
     TStringPairList list;
     constexpr int pairs = 70000;
