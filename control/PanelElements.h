@@ -30,7 +30,8 @@ inline constexpr Integer kGeneralPage = 2;
 
 /// What stands in the details panel, as it is designed. ControlPic is relative to fraData, all
 /// other elements to ControlPic, which cuts off what reaches out of it. From back to front: the
-/// rows in their order, then the style controls, which hide row 0, then the Apply button.
+/// rows in their order, then txtComment, which hides them all, then the style controls, which hide
+/// row 0, then the Apply button.
 struct PanelElements {
     PanelElements();
 

@@ -1,5 +1,6 @@
 #include "hosts/qt/PlateWidget.h"
 
+#include "hosts/qt/PanelMirror.h"
 #include "hosts/qt/PlateAccessible.h"
 #include "hosts/qt/PlateSignals.h"
 #include "hosts/qt/QtPalette.h"
@@ -54,6 +55,12 @@ PlateWidget::PlateWidget(QWidget* parent)
             [this] { Try([this] { plate_->DataButtonPressed(); }); });
     MirrorDataButton();
 
+    panel_ = std::make_unique<PanelMirror>(
+        *this, *plate_, [this](const std::function<void()>& action) { Try(action); });
+    dataButton_.raise(); // the panel leaves room for it
+    site_.onPanelChange = [this] { panel_->Sync(); };
+    site_.menuPlace = [this] { return panel_->MenuPlace(); };
+
     setMouseTracking(true);
     // A press takes the focus where the control says so.
     setFocusPolicy(Qt::TabFocus);
@@ -95,6 +102,10 @@ void PlateWidget::setVerticalCentred(bool on) {
 void PlateWidget::setRefitOnResize(bool on) {
     refitOnResize_ = on;
     Refit();
+}
+
+void PlateWidget::setDataVisible(bool on) {
+    Try([&] { plate_->DataVisible(on); });
 }
 
 QColor PlateWidget::ColorOf(Long color) const {
@@ -171,6 +182,7 @@ void PlateWidget::TakeSize(QSize size) {
 
 void PlateWidget::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
+    panel_->Sync();
     Refit();
 }
 

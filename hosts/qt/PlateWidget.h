@@ -14,6 +14,7 @@
 
 namespace zorvane {
 
+class PanelMirror;
 class PlateSignals;
 class QtCanvas;
 class SelectionAids;
@@ -42,6 +43,8 @@ class PlateWidget : public QWidget {
     Q_PROPERTY(bool multipleSelect READ multipleSelect WRITE setMultipleSelect)
     Q_PROPERTY(bool dragDrop READ dragDrop WRITE setDragDrop)
     Q_PROPERTY(bool mouseEnabled READ mouseEnabled WRITE setMouseEnabled)
+    Q_PROPERTY(bool editEnable READ editEnable WRITE setEditEnable)
+    Q_PROPERTY(bool dataVisible READ dataVisible WRITE setDataVisible DESIGNABLE false STORED false)
     Q_PROPERTY(Aids aids READ aids WRITE setAids)
     // Restored last, so that the plate is loaded with the other settings in force.
     Q_PROPERTY(QString plateName READ plateName WRITE setPlateName)
@@ -121,6 +124,13 @@ class PlateWidget : public QWidget {
     void setDragDrop(bool on) { plate_->DragDrop = on; }
     bool mouseEnabled() const { return plate_->MouseEnabled(); }
     void setMouseEnabled(bool on) { plate_->MouseEnabled(on); }
+
+    /// Whether the operator can edit the plate definition in the details panel.
+    bool editEnable() const { return plate_->EditEnable(); }
+    void setEditEnable(bool on) { plate_->EditEnable(on); }
+    /// Whether the details panel is open.
+    bool dataVisible() const { return plate_->DataVisible(); }
+    void setDataVisible(bool on);
 
     /// None at first.
     Aids aids() const { return aids_; }
@@ -211,6 +221,7 @@ class PlateWidget : public QWidget {
     std::unique_ptr<Plate> plate_;
     std::unique_ptr<PlateSignals> signals_;
     std::unique_ptr<SelectionAids> selection_;
+    std::unique_ptr<PanelMirror> panel_;
     Aids aids_;
     Integer hovered_ = -1;
     Integer announced_ = -1;

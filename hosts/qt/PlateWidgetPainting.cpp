@@ -1,4 +1,5 @@
 #include "drawing/PlatePainter.h"
+#include "hosts/qt/PanelMirror.h"
 #include "hosts/qt/PlateWidget.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtPalette.h"
@@ -76,6 +77,7 @@ void PlateWidget::PaintFocusRing(QPainter& painter) {
 void PlateWidget::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange) MirrorDataButton();
+    if (panel_) panel_->Sync();
     update(); // colours, font and style all show
 }
 

@@ -31,10 +31,15 @@ void QtSite::TakeFocus() { widget_.setFocus(Qt::MouseFocusReason); }
 
 void QtSite::FocusDataButton() { dataButton_.setFocus(Qt::OtherFocusReason); }
 
+void QtSite::PanelChanged() {
+    if (onPanelChange) onPanelChange();
+}
+
 String QtSite::Ask(const Question& question) {
-    return QInputDialog::getText(&widget_, QString::fromStdString(question.title),
-                                 QString::fromStdString(question.prompt), QLineEdit::Normal,
-                                 QString::fromStdString(question.preset))
+    QString prompt = QString::fromStdString(question.prompt);
+    prompt.remove(QLatin1Char('\r'));
+    return QInputDialog::getText(&widget_, QString::fromStdString(question.title), prompt,
+                                 QLineEdit::Normal, QString::fromStdString(question.preset))
         .toStdString();
 }
 
@@ -42,7 +47,7 @@ Integer QtSite::Choose(const std::vector<MenuEntry>& entries) {
     QMenu menu(&widget_);
     for (const MenuEntry& entry : entries)
         menu.addAction(QString::fromStdString(entry.caption))->setEnabled(entry.enabled);
-    QAction* chosen = menu.exec(QCursor::pos());
+    QAction* chosen = menu.exec(menuPlace ? menuPlace() : QCursor::pos());
     return static_cast<Integer>(menu.actions().indexOf(chosen));
 }
 

@@ -23,6 +23,10 @@ class QtSite final : public HostSite {
     std::function<void(const Rect&)> onRepaint;
     /// Called when the control takes another size, in device-independent pixels.
     std::function<void(QSize)> onResize;
+    /// Called when something in the details panel has changed.
+    std::function<void()> onPanelChange;
+    /// Where a menu is to open, in global coordinates.
+    std::function<QPoint()> menuPlace;
 
     PlateOverlay& Overlay() { return overlay_; }
     const QString& ToolTip() const { return toolTip_; }
@@ -38,6 +42,7 @@ class QtSite final : public HostSite {
     void FocusDataButton() override;
     void SetToolTip(const String& text) override { toolTip_ = QString::fromStdString(text); }
     void SetPointer(PointerShape shape) override { pointer_ = shape; }
+    void PanelChanged() override;
     String Ask(const Question& question) override;
     Integer Choose(const std::vector<MenuEntry>& entries) override;
 

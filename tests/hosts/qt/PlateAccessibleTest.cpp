@@ -17,7 +17,7 @@ TEST(PlateAccessible, WellsTellWhereTheyAreWhatTheyHoldAndWhetherSelected) {
     QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&form.widget);
     ASSERT_NE(list, nullptr);
     EXPECT_EQ(list->text(QAccessible::Name), "Demo");
-    EXPECT_EQ(list->childCount(), 49) << "the wells and the details button";
+    EXPECT_EQ(list->childCount(), 50) << "the wells, the details button and its panel";
     EXPECT_EQ(list->indexOfChild(list->child(48)), 48);
 
     QAccessibleInterface* well = list->child(8);
@@ -37,7 +37,7 @@ TEST(PlateAccessible, WellsTellWhereTheyAreWhatTheyHoldAndWhetherSelected) {
     plate.PlateClassText("PLATE Bare\r\nXOVERALL 70\r\nYOVERALL 50\r\n");
     EXPECT_FALSE(well->isValid());
     EXPECT_EQ(well->text(QAccessible::Name), "");
-    EXPECT_EQ(list->childCount(), 1);
+    EXPECT_EQ(list->childCount(), 2);
 }
 
 } // namespace zorvane

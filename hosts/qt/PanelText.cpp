@@ -1,0 +1,50 @@
+#include "hosts/qt/PanelText.h"
+
+#include "runtime/Text.h"
+
+#include <algorithm>
+
+namespace zorvane {
+
+namespace {
+
+bool IsUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const CharacterAt character = FirstCharacter(text);
+        if (!character.valid) return false;
+        text.remove_prefix(character.bytes);
+    }
+    return true;
+}
+
+bool FitsBytes(const QString& text) {
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() <= 0xFF; });
+}
+
+} // namespace
+
+QString ShownText(const String& text) {
+    return IsUtf8(text) ? QString::fromStdString(text)
+                        : QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+String TakenText(const QString& shown, const String& before) {
+    return !IsUtf8(before) && FitsBytes(shown) ? shown.toLatin1().toStdString()
+                                               : shown.toStdString();
+}
+
+QString ShownComment(const String& comment) {
+    QString lines = ShownText(comment);
+    lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    if (lines.endsWith(QLatin1Char('\n'))) lines.chop(1);
+    return lines;
+}
+
+String TakenComment(const QString& shown, const String& before) {
+    if (shown.isEmpty()) return {};
+    QString lines = shown + QLatin1Char('\n');
+    lines.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+    return TakenText(lines, before);
+}
+
+} // namespace zorvane

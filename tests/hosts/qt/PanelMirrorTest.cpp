@@ -1,0 +1,251 @@
+#include "Form.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QInputDialog>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+
+namespace zorvane {
+namespace {
+
+/// A window whose panel is open and can be edited. "Reservoir" records more than twelve values.
+class PanelForm : public Form {
+  public:
+    PanelForm() {
+        String text = kPlateText;
+        text.insert(text.find("XPITCH"), "; first\r\n; second\r\n");
+        text += "DEPTH 1\r\nVOLUME 2\r\nRIMCENTERX 0\r\nRIMCENTERY 0\r\nMOATDEPTH 3\r\n"
+                "MOATRADIUS 4\r\n";
+        Plate& plate = widget.plate();
+        plate.PlateClassText(text);
+        plate.EditEnable(true);
+        plate.DataVisible(true);
+        widget.activateWindow();
+        QApplication::processEvents();
+        for (const char* field : {"Area", "Taper", "R0"})
+            plate.SetProperty(String("Reservoir.") + field, "5");
+    }
+
+    const PanelElements& Panel() const { return widget.plate().Elements().panel; }
+    QComboBox& Pages() const { return *Named<QComboBox>("Page"); }
+    QComboBox& Style() const { return *Named<QComboBox>("Style"); }
+    QPlainTextEdit& Comment() const { return *widget.findChild<QPlainTextEdit*>(); }
+    QPushButton& Apply() const { return *Captioned("Apply Changes"); }
+    QPushButton& Menu() const { return *Captioned("...."); }
+    QLineEdit* Row(const char* caption) const { return Named<QLineEdit>(caption); }
+
+    void Turn(const char* page) {
+        Pages().setFocus();
+        const int position = Pages().findText(page);
+        ASSERT_GE(position, 0) << page;
+        Pages().setCurrentIndex(position);
+        emit Pages().activated(position);
+    }
+
+    /// Answers the next menu or dialog that opens.
+    template <class Dialog>
+    void Answer(std::function<void(Dialog&)> answer) {
+        QTimer::singleShot(0, &widget, [this, answer] {
+            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            if (!dialog) dialog = qobject_cast<Dialog*>(QApplication::activePopupWidget());
+            if (!dialog) return Answer<Dialog>(answer);
+            answer(*dialog);
+        });
+    }
+
+  private:
+    template <class Widget>
+    Widget* Named(const char* name) const {
+        for (auto* child : widget.findChildren<Widget*>())
+            if (child->accessibleName() == name && !child->isHidden()) return child;
+        return nullptr;
+    }
+    QPushButton* Captioned(const char* text) const {
+        for (auto* child : widget.findChildren<QPushButton*>())
+            if (child->text() == text) return child;
+        return nullptr;
+    }
+};
+
+/// Whether a point in the middle of a widget belongs to it, rather than to one that covers it.
+bool IsUncovered(const PanelForm& form, const QWidget& shown) {
+    const QPoint middle = shown.mapTo(&form.widget, shown.rect().center());
+    return form.widget.rect().contains(middle) && form.widget.childAt(middle) == &shown;
+}
+
+TEST(PanelMirror, ShowsEachPageWithTheToolkitsControls) {
+    PanelForm form;
+    EXPECT_EQ(form.widget.findChild<QGroupBox*>()->title(), "Demo - Details");
+    EXPECT_EQ(form.Comment().toPlainText(), "first\nsecond");
+    form.Turn("General Properties");
+    EXPECT_FALSE(form.Comment().isVisible());
+    EXPECT_EQ(form.Row("Columns")->text(), "6");
+    EXPECT_TRUE(form.Row("Columns")->alignment().testFlag(Qt::AlignRight));
+    form.Turn("Drop Well");
+    EXPECT_EQ(form.Style().currentText(), "Round");
+    form.Turn("Tags");
+    EXPECT_FALSE(form.Row("Tag 12")->alignment().testFlag(Qt::AlignRight));
+
+    form.widget.plate().SetDataDisplay(2); // what the host does shows at once
+    EXPECT_NE(form.Row("Columns"), nullptr);
+    form.widget.setEditEnable(false);
+    EXPECT_FALSE(form.Apply().isVisible() || form.Menu().isVisible());
+    form.widget.setDataVisible(false);
+    EXPECT_FALSE(form.widget.findChild<QGroupBox*>()->isVisible());
+}
+
+TEST(PanelMirror, WhatIsTypedIsInTheControlAtOnce) {
+    PanelForm form;
+    form.Turn("General Properties");
+    EXPECT_FALSE(form.Apply().isEnabled());
+    QLineEdit& columns = *form.Row("Columns");
+    columns.setFocus();
+    columns.selectAll();
+    QTest::keyClicks(&columns, "53");
+    EXPECT_EQ(form.Panel().txtData[1].text, "53");
+    EXPECT_TRUE(form.Apply().isEnabled());
+    QTest::keyClick(&columns, Qt::Key_Backspace);
+    EXPECT_EQ(columns.cursorPosition(), 1);
+    columns.undo();
+    EXPECT_EQ(form.Panel().txtData[1].text, "53") << "undoing is an edit as well";
+    QTest::keyClick(&columns, Qt::Key_Backspace);
+
+    const Integer well = form.widget.plate().CurrentWell();
+    for (const auto key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right})
+        QTest::keyClick(&columns, key);
+    EXPECT_EQ(form.widget.plate().CurrentWell(), well);
+
+    QTest::keyClick(&columns, Qt::Key_Return); // presses Apply
+    EXPECT_EQ(form.widget.plate().Cols, 5);
+    EXPECT_TRUE(form.widget.dataVisible());
+    EXPECT_EQ(QApplication::focusWidget(), &form.Pages()) << "the row is not on the first page";
+
+    form.Turn("Drop Well");
+    form.Style().setCurrentIndex(3);
+    emit form.Style().activated(3);
+    EXPECT_EQ(form.Row("Style")->text(), "Square");
+    QTest::mouseClick(&form.Apply(), Qt::LeftButton);
+    EXPECT_EQ(form.widget.plate().LoadedDefinition().CompoundWell()->Item("Drop")->Style(), 3);
+
+    form.Pages().setFocus();
+    QTest::keyClick(&form.Pages(), Qt::Key_Escape);
+    EXPECT_FALSE(form.widget.dataVisible());
+    EXPECT_TRUE(form.widget.hasFocus());
+}
+
+TEST(PanelMirror, NoLineOfACommentIsLost) {
+    PanelForm form;
+    form.Comment().moveCursor(QTextCursor::End);
+    QTest::keyClick(&form.Comment(), Qt::Key_Return);
+    QTest::keyClicks(&form.Comment(), "third");
+    EXPECT_EQ(form.Panel().txtComment.text, "first\r\nsecond\r\nthird\r\n");
+    EXPECT_EQ(form.Comment().textCursor().position(), form.Comment().toPlainText().size());
+    QTest::mouseClick(&form.Apply(), Qt::LeftButton);
+    EXPECT_EQ(form.widget.plate().LoadedDefinition().Comment, "first\r\nsecond\r\nthird\r\n");
+    form.Comment().selectAll();
+    QTest::keyClick(&form.Comment(), Qt::Key_Delete);
+    EXPECT_EQ(form.Panel().txtComment.text, "");
+}
+
+TEST(PanelMirror, BytesThatAreNoUtf8SurviveAnEdit) {
+    PanelForm form;
+    form.widget.plate().SetProperty("ROWLABEL", "\xE4");
+    form.Turn("General Properties");
+    QLineEdit& label = *form.Row("Row Label");
+    EXPECT_EQ(label.text(), QString(QChar(0xE4)));
+    QTest::keyClicks(&label, "b");
+    EXPECT_EQ(form.Panel().txtData[2].text, "\xE4"
+                                            "b");
+}
+
+TEST(PanelMirror, TabReachesEveryRowAndUncoversIt) {
+    PanelForm form;
+    form.Turn("Reservoir Well");
+    ASSERT_EQ(form.Panel().txtData.size(), 16U);
+    std::vector<QString> reached;
+    form.Pages().setFocus();
+    for (int i = 0; i < 40; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QWidget* const focus = QApplication::focusWidget();
+        if (focus == &form.Pages() ||
+            !qobject_cast<QGroupBox*>(form.widget.findChild<QGroupBox*>())->isAncestorOf(focus))
+            break;
+        reached.push_back(focus->accessibleName());
+        EXPECT_TRUE(IsUncovered(form, *focus)) << focus->accessibleName().toStdString();
+    }
+    std::size_t rows = 0;
+    for (const RowCaption& caption : form.Panel().lblAnnotation) {
+        const QString name = QString::fromStdString(caption.caption);
+        EXPECT_NE(std::find(reached.begin(), reached.end(), name), reached.end())
+            << caption.caption;
+        ++rows;
+    }
+    // The menu and the list of styles besides; there is nothing to apply.
+    EXPECT_EQ(reached.size(), rows + 2);
+}
+
+TEST(PanelMirror, TheMenuAsksInADialogAndFailuresAreReported) {
+    PanelForm form;
+    QStringList failures;
+    QObject::connect(&form.widget, &PlateWidget::failed, &form.widget,
+                     [&](int number) { failures.append(QString::number(number)); });
+    const auto choose = [&](int entry) {
+        form.Answer<QMenu>([entry](QMenu& menu) {
+            ASSERT_EQ(menu.actions().size(), 9);
+            menu.setActiveAction(menu.actions()[entry]);
+            QTest::keyClick(&menu, Qt::Key_Return);
+        });
+    };
+    form.Turn("General Properties");
+    choose(mnuAddNewSubWell);
+    QTimer::singleShot(0, &form.widget, [&] {
+        form.Answer<QInputDialog>([](QInputDialog& dialog) {
+            EXPECT_EQ(dialog.labelText(), "Enter  a unique name for the subwell");
+            dialog.setTextValue("New");
+            dialog.accept();
+        });
+    });
+    QTest::mouseClick(&form.Menu(), Qt::LeftButton);
+    EXPECT_EQ(form.Pages().currentText(), "New");
+    EXPECT_EQ(form.widget.plate().LoadedDefinition().CompoundWell()->Count(), 3);
+    EXPECT_TRUE(failures.isEmpty());
+
+    form.Turn("Reservoir Well"); // the last page, whose command finds no sub-well
+    choose(mnuRemoveSubWell);
+    QTest::mouseClick(&form.Menu(), Qt::LeftButton);
+    EXPECT_EQ(failures.join(" "), "9");
+
+    form.Answer<QMenu>([](QMenu& menu) {
+        EXPECT_FALSE(menu.actions()[mnuRemoveSubWell]->isEnabled());
+        menu.close();
+    });
+    form.Turn("Comments");
+    QTest::mouseClick(&form.Menu(), Qt::LeftButton);
+    EXPECT_EQ(failures.join(" "), "9");
+}
+
+TEST(PanelMirror, AClickOnItsBackgroundIsAClickOnTheControl) {
+    PanelForm form;
+    form.Signals();
+    const QPoint empty =
+        ToPixels(form.widget.plate().Elements().fraData.box).bottomRight().toPoint() - QPoint(8, 8);
+    QTest::mouseClick(form.widget.childAt(empty), Qt::LeftButton, {},
+                      form.widget.childAt(empty)->mapFrom(&form.widget, empty));
+    EXPECT_EQ(form.Signals(), "clicked");
+}
+
+TEST(PanelMirror, APanelHigherThanItsWidgetScrolls) {
+    PanelForm form;
+    form.widget.resize(300, 150);
+    form.Turn("General Properties");
+    QLineEdit& last = *form.Row("Y Overall");
+    EXPECT_FALSE(IsUncovered(form, last));
+    last.setFocus();
+    EXPECT_TRUE(IsUncovered(form, last));
+}
+
+} // namespace
+} // namespace zorvane
