@@ -1,4 +1,5 @@
-#include "platetext/PlateFunctions.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Text.h"
 #include "support/XMLFile.h"
 
 namespace zorvane {
