@@ -56,7 +56,6 @@ String XMLFile::BeginSection(std::string_view tag) {
     if (name.ends_with('/')) {
         // An empty member reads as a section that ends at once.
         name.pop_back();
-        name = TrimSpaces(name);
         buffer_.PutBack("</" + name + ">");
     }
     sections_.At(depth_) = name;

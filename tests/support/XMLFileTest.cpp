@@ -113,7 +113,7 @@ TEST(XMLFile, UndoesEscapesOnceInDataAndTwiceInStringValues) {
 TEST(XMLFile, ReadsSectionsAttributesAndData) {
     Opened opened("  <?xml version =\"1.0\" standalone ?> <Ignored>\n\n \t\r"
                   "noise <A Index=\"1\" x = \"y z\" Image=\"&lt;\" plain>\r\n"
-                  "\t first \r\n\r\n  second&amp;  \n third <B/><C/>last</A><D/ E=\"\">");
+                  "\t first \r\n\r\n  second&amp;  \n third <B/><C/><B>last</B></A><D/ E=\"\">");
     XMLFile& x = opened.x;
     EXPECT_EQ(HeaderOf(x), "A");
     EXPECT_EQ(x.SectionIndex(), "1");
@@ -125,16 +125,20 @@ TEST(XMLFile, ReadsSectionsAttributesAndData) {
     EXPECT_EQ(x.Section(), "");
     for (const char* const name : {"B", "C"}) {
         EXPECT_EQ(HeaderOf(x), name);
-        EXPECT_EQ(x.SectionTagName(), "");
-        EXPECT_EQ(x.SectionIndex(), "");
+        EXPECT_EQ(x.SectionTagName() + x.SectionTagValue(), "");
         EXPECT_EQ(x.ReadXMLData(), "");
         EXPECT_TRUE(x.SectionComplete());
         EXPECT_EQ(x.Section(), name); // the one closed last
+        EXPECT_EQ(x.ReadXMLData(), "");
+        EXPECT_FALSE(x.SectionComplete());
     }
+    EXPECT_EQ(HeaderOf(x), "B");
+    EXPECT_EQ(x.ReadXMLData(), "last");
     EXPECT_EQ(x.SectionIndex(), "1");
     EXPECT_EQ(HeaderOf(x), "/A");
     EXPECT_EQ(x.Section(), "");
     EXPECT_EQ(HeaderOf(x), "D");
+    EXPECT_EQ(x.SectionIndex() + x.SectionImage(), "");
     EXPECT_EQ(HeaderOf(x), "/D");
 }
 
@@ -211,6 +215,8 @@ TEST(XMLFile, SaysThatTheFileCannotBeWritten) {
     const String full = "/dev/full";
     if (std::filesystem::exists(full)) {
         x.FileName(full);
+        EXPECT_EQ(NumberRaisedBy([&] { x.WriteXMLData(String(1000000, 'x')); }), 1053);
+        EXPECT_FALSE(x.IsOpenForWriting());
         x.WriteXMLData("kept back until the file is closed");
         EXPECT_EQ(Raised(full, [&] { x.CloseXMLFile(); }),
                   "1053 XMLFile: Could not write data to XMLFile <FILE>");
@@ -233,6 +239,7 @@ TEST(XMLFile, NestsSeventeenSectionsAndEndsNoMoreThanItBegan) {
     EXPECT_EQ(NumberRaisedBy([&] { opened.x.CloseXMLSection(); }), 9);
     EXPECT_EQ(NumberRaisedBy([&] { opened.x.OpenXMLSection("S"); }), 9);
     EXPECT_EQ(NumberRaisedBy([&] { HeaderOf(opened.x); }), 9);
+    EXPECT_EQ(NumberRaisedBy([&] { opened.x.WriteXMLData("outside"); }), 0);
     EXPECT_EQ(opened.x.Section(), "");
     opened.x.CloseXMLFile();
 
@@ -246,8 +253,8 @@ TEST(XMLFile, NestsSeventeenSectionsAndEndsNoMoreThanItBegan) {
 
 TEST(XMLFile, ReadsALineOfVeryManyEmptyMembers) {
     constexpr int members = 200000;
-    String bytes = kHeader;
-    for (int i = 0; i < members; ++i)
+    String bytes = kHeader + String("a/>\n"); // the first one shorter than its end
+    for (int i = 1; i < members; ++i)
         bytes += "<a/>";
     Opened opened(bytes);
     for (int i = 0; i < members; ++i) {
