@@ -21,7 +21,9 @@ struct PairsFolder {
         return std::distance(begin(files), end(files));
     }
 
-    const String path = testing::TempDir() + "plate_tool_pairs";
+    // Tests run side by side.
+    const String path = testing::TempDir() + "pairs_" +
+                        testing::UnitTest::GetInstance()->current_test_info()->name();
 };
 
 String Saved(const String& lines) {
