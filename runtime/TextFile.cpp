@@ -7,6 +7,7 @@
 #include <cstring>
 #include <filesystem>
 #include <ios>
+#include <sstream>
 #include <utility>
 
 namespace zorvane {
@@ -34,17 +35,21 @@ void Open(std::filebuf& file, const String& name, std::ios::openmode mode, Error
     if (!file.open(path, mode | std::ios::binary)) RaiseOpenFailure(path, missing);
 }
 
+std::unique_ptr<std::streambuf> OpenedFile(const String& path) {
+    auto file = std::make_unique<std::filebuf>();
+    // The blocks of the reader are the buffer; a second one below would only copy.
+    file->pubsetbuf(nullptr, 0);
+    Open(*file, path, std::ios::in, ErrorNumber::FileNotFound);
+    return file;
+}
+
 } // namespace
 
 /// Reads a file block by block and cuts it into lines. The next CR and the next LF are remembered
 /// apart, so that each byte is searched once for either, whatever line ends the file has.
 class TextFile::LineBuffer {
   public:
-    explicit LineBuffer(const String& path) {
-        // The blocks are the buffer; a second one below would only copy.
-        file_.pubsetbuf(nullptr, 0);
-        Open(file_, path, std::ios::in, ErrorNumber::FileNotFound);
-    }
+    explicit LineBuffer(std::unique_ptr<std::streambuf> file) : file_(std::move(file)) {}
 
     bool AtEnd() { return at_ == end_ && !Fill(); }
 
@@ -80,7 +85,7 @@ class TextFile::LineBuffer {
 
     std::streamsize ReadBlock() {
         try {
-            return file_.sgetn(block_.data(), static_cast<std::streamsize>(block_.size()));
+            return file_->sgetn(block_.data(), static_cast<std::streamsize>(block_.size()));
         } catch (const std::ios_base::failure&) {
             Raise(ErrorNumber::DeviceError);
         }
@@ -103,7 +108,7 @@ class TextFile::LineBuffer {
     }
 
     void SeekInFile(FilePosition position) {
-        if (file_.pubseekpos(position, std::ios::in) == std::filebuf::pos_type(-1))
+        if (file_->pubseekpos(position, std::ios::in) == std::streambuf::pos_type(-1))
             Raise(ErrorNumber::DeviceError);
         blockStart_ = position;
         SetBlock(0);
@@ -128,7 +133,7 @@ class TextFile::LineBuffer {
         if (cr && !AtEnd() && *at_ == '\n') ++at_;
     }
 
-    std::filebuf file_;
+    std::unique_ptr<std::streambuf> file_;
     std::array<char, 65536> block_;
     FilePosition blockStart_ = 0;
     const char* at_ = block_.data();
@@ -144,7 +149,12 @@ TextFile& TextFile::operator=(TextFile&&) noexcept = default;
 
 void TextFile::OpenInput(const String& path) {
     Close();
-    input_ = std::make_unique<LineBuffer>(path);
+    input_ = std::make_unique<LineBuffer>(OpenedFile(path));
+}
+
+void TextFile::OpenText(const String& text) {
+    Close();
+    input_ = std::make_unique<LineBuffer>(std::make_unique<std::stringbuf>(text, std::ios::in));
 }
 
 void TextFile::OpenOutput(const String& path) {

@@ -29,6 +29,8 @@ class TextFile {
     /// Opens for reading from the start; what was open before is closed. Errors 53 (no such file),
     /// 76 (no such directory), 75 (cannot be opened: a directory, no right to read).
     void OpenInput(const String& path);
+    /// Reads a text in memory as a file with these bytes would be read.
+    void OpenText(const String& text);
     /// Creates or truncates for writing; what was open before is closed. Errors 76, 75.
     void OpenOutput(const String& path);
     /// Error 57 when an output file could not be written to its end; it is closed all the same.

@@ -12,13 +12,20 @@ namespace {
 
 constexpr std::size_t kBlock = 65536;
 
+std::vector<String> RestOf(TextFile& text) {
+    std::vector<String> lines;
+    while (!text.AtEnd())
+        lines.push_back(text.ReadLine());
+    return lines;
+}
+
 std::vector<String> LinesOf(const String& bytes) {
     const TempFile file(bytes);
     TextFile text;
     text.OpenInput(file.Path());
-    std::vector<String> lines;
-    while (!text.AtEnd())
-        lines.push_back(text.ReadLine());
+    std::vector<String> lines = RestOf(text);
+    text.OpenText(bytes);
+    EXPECT_EQ(RestOf(text), lines) << "a text in memory";
     return lines;
 }
 

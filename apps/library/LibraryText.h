@@ -1,0 +1,69 @@
+#pragma once
+
+#include "runtime/Types.h"
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace zorvane {
+
+/// The part of a library that defines one plate: from its PLATE line to the last of its lines that
+/// says something. Blank lines and comments behind that stand between plates and are no part of it,
+/// although the reader takes those comments for the plate's.
+struct PlateBlock {
+    std::size_t begin = 0;
+    std::size_t end = 0;                ///< behind the last line's end
+    std::size_t readTo = 0;             ///< where the reader goes on after the plate
+    String name;                        ///< in the letter case of the library
+    String definition;                  ///< the text of the plate, read alone
+    std::vector<String> commentsBehind; ///< what the plate's comment has from between the plates
+};
+
+/// The bytes of a plate library, for changing one plate in them and nothing else.
+///
+/// Plates are found by the reader itself, so the first of a name is meant, in any letter case, and
+/// nothing behind a line that ends every look-up can be reached. Definitions are what cmPlate::Text
+/// gives. They take the line ends of what they replace or follow.
+///
+/// Failures are RuntimeErrors with a description for the user.
+class LibraryText {
+  public:
+    explicit LibraryText(String bytes) : bytes_(std::move(bytes)) {}
+
+    const String& Bytes() const { return bytes_; }
+
+    /// Nothing when no look-up gives a plate of this name.
+    std::optional<PlateBlock> Find(const String& name) const;
+    /// Find, or the failure that tells why there is no such plate.
+    PlateBlock Get(const String& name) const;
+    /// The bytes of a block.
+    std::string_view Of(const PlateBlock& block) const;
+
+    /// The library with another definition in place of the plate that has its name. Fails when
+    /// that could not be read back, or would change what is read behind it.
+    LibraryText WithReplaced(const String& definition) const;
+    /// The library with one more plate behind its last one. Fails when it has a plate of this name
+    /// already, or when the new one could not be read back.
+    LibraryText WithAppended(const String& definition) const;
+
+  private:
+    String Fitted(std::string_view definition, std::string_view lineEnd) const;
+    std::string_view LineEndAt(std::size_t begin, std::size_t end) const;
+    String WhyNotFound(const String& name) const;
+
+    String bytes_;
+};
+
+/// The name on the PLATE line of a definition; empty when it has none.
+String NameIn(std::string_view definition);
+
+/// A definition with another name; error when a library could not give a plate of that name.
+String Renamed(const String& definition, const String& name);
+
+/// A definition without the comment lines that stand behind the plate in its library, and would be
+/// there twice if they were written into the plate.
+String WithoutCommentsBehind(const String& definition, const PlateBlock& block);
+
+} // namespace zorvane

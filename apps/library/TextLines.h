@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace zorvane {
+
+/// A line and the CR LF, LF or CR that ends it; the last line of a text may have none.
+struct TextLine {
+    std::string_view text;
+    std::string_view end;
+};
+
+/// The lines of a text, as a library file is cut into lines; they look into the text.
+std::vector<TextLine> LinesOf(std::string_view text);
+
+} // namespace zorvane
