@@ -20,6 +20,7 @@ Command MakeTextCommand(CLI::App& app);
 Command MakeDrawCommand(CLI::App& app);
 Command MakeWellsCommand(CLI::App& app);
 Command MakeCheckCommand(CLI::App& app);
+Command MakeEditCommand(CLI::App& app);
 Command MakePairsCommand(CLI::App& app);
 
 } // namespace zorvane

@@ -19,13 +19,13 @@ int RunChosen(const std::vector<Command>& commands) {
 }
 
 int Main(int argc, char** argv) {
-    CLI::App app("Reads, checks and draws plate libraries", "plate");
+    CLI::App app("Reads, checks, draws and changes plate libraries", "plate");
     app.set_version_flag("--version", "plate " PLATE_VERSION);
     app.require_subcommand(1);
     app.footer("\"plate COMMAND --help\" tells more about a command.");
-    const std::vector<Command> commands{MakeListCommand(app),  MakeTextCommand(app),
-                                        MakeDrawCommand(app),  MakeWellsCommand(app),
-                                        MakeCheckCommand(app), MakePairsCommand(app)};
+    const std::vector<Command> commands{
+        MakeListCommand(app),  MakeTextCommand(app), MakeDrawCommand(app), MakeWellsCommand(app),
+        MakeCheckCommand(app), MakeEditCommand(app), MakePairsCommand(app)};
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -10,7 +10,7 @@ TEST(PlateTool, AnswersWithExitCodeOutputAndMessage) {
         const char* out; ///< how the output begins; null for none at all
         const char* err; ///< the whole message; null for any
     } cases[] = {
-        {"--help", 0, "Reads, checks and draws plate libraries", ""},
+        {"--help", 0, "Reads, checks, draws and changes plate libraries", ""},
         {"list --help", 0, "List the plates", ""},
         {"--version", 0, "plate ", ""},
         {"list LIB --csv", 0,
