@@ -11,7 +11,7 @@ constexpr const char* kLibrary = "; small\n"
                                  "WELL Moat\nXOFFSET 6\nYOFFSET 7\nDEPTH 9\n"
                                  "\n; about Two\nPLATE Two\nROWS 1\nCOLS 1\nVOLUME 5\nWELL Lid\n";
 
-/// The library in a folder of its own, because a save leaves a backup beside it.
+/// The library under a name of its own for each test, and the backup that a save leaves beside it.
 struct EditedLibrary {
     EditedLibrary() { std::ofstream(path, std::ios::binary) << kLibrary; }
     ~EditedLibrary() {
@@ -21,7 +21,8 @@ struct EditedLibrary {
     ToolRun Edit(const String& arguments) const {
         return ToolRun("edit " + Quoted(path) + " " + arguments);
     }
-    const String path = testing::TempDir() + "plate_tool_edited.dat";
+    const String path =
+        testing::TempDir() + testing::UnitTest::GetInstance()->current_test_info()->name() + ".dat";
 };
 
 String Head(const String& text) { return "Plate One\r\n; about Two\r\n" + text; }
