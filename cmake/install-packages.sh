@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(
     g++ cmake ninja-build
     qt6-base-dev
-    libcli11-dev libgtest-dev
+    libsqlite3-dev libcli11-dev libgtest-dev
     fonts-dejavu-core # text on a machine that has no font yet
 )
 

@@ -12,8 +12,12 @@ enum RegistryResult : Long {
     kRegistryNotFound = 2,
     kRegistryAccessDenied = 5,
     kRegistryInvalidHandle = 6,
+    kRegistryDiskFull = 112,
+    kRegistryBusy = 170,
     kRegistryMoreData = 234,
     kRegistryNoMoreItems = 259,
+    kRegistryCorrupt = 1009,    ///< what is stored is no registry, or a damaged one
+    kRegistryNotWorking = 1016, ///< reading or writing what is stored has failed
 };
 
 /// Types of stored values.

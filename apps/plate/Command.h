@@ -22,5 +22,6 @@ Command MakeWellsCommand(CLI::App& app);
 Command MakeCheckCommand(CLI::App& app);
 Command MakeEditCommand(CLI::App& app);
 Command MakePairsCommand(CLI::App& app);
+Command MakeRegistryCommand(CLI::App& app);
 
 } // namespace zorvane

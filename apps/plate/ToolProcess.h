@@ -1,14 +1,15 @@
 #pragma once
 
 #include "platform/Process.h"
+#include "platform/sqlite/SqliteRegistry.h"
 #include "runtime/Text.h"
 
 #include <iostream>
 
 namespace zorvane {
 
-/// The surroundings of a command-line tool: messages go to standard error, there is no registry and
-/// the screen has 96 dots an inch.
+/// The surroundings of a command-line tool: messages go to standard error, the registry is kept in
+/// files and the screen has 96 dots an inch.
 class ToolProcess final : public Process {
   public:
     MessageDisplay& Messages() override { return messages_; }
@@ -24,7 +25,7 @@ class ToolProcess final : public Process {
 
     StandardError messages_;
     Screen screen_;
-    Registry registry_;
+    SqliteRegistry registry_;
 };
 
 } // namespace zorvane

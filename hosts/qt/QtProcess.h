@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Process.h"
+#include "platform/sqlite/SqliteRegistry.h"
 
 namespace zorvane {
 
@@ -17,7 +18,7 @@ class QtScreen final : public Screen {
     Single TwipsPerPixelY() const override { return TwipsPerPixelX(); }
 };
 
-/// What the desktop offers to every control. Of registries it knows none.
+/// What the desktop offers to every control; the registry is kept in files.
 class QtProcess final : public Process {
   public:
     /// Makes the desktop serve controls wherever no process has been installed. Every PlateWidget
@@ -31,7 +32,7 @@ class QtProcess final : public Process {
   private:
     QtMessages messages_;
     QtScreen screen_;
-    Registry registry_;
+    SqliteRegistry registry_;
 };
 
 } // namespace zorvane

@@ -3,7 +3,9 @@
 
 #include "Raised.h"
 #include "TempFile.h"
+#include "TempFolder.h"
 #include "TestProcess.h"
+#include "platform/sqlite/SqliteRegistry.h"
 
 #include <random>
 
@@ -182,10 +184,11 @@ TEST_F(PairListRegistry, AddsWhatWasWrittenAndWhatWasLeftBehind) {
     EXPECT_EQ(PairsOf(read), (Pairs{{"Z", "kept"}, {"A", "1"}, {"B", "b"}, {"C", "3"}}));
 }
 
-TEST_F(PairListRegistry, ReadsRandomListsBack) {
+/// Writes random lists to the registry in force and reads them back.
+void ExpectRandomListsBack(int rounds) {
     using namespace std::string_view_literals;
     std::mt19937 random(21);
-    for (int round = 0; round < 100; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         const String key = kKey + std::to_string(round);
         TStringPairList written;
         for (int i = 0; i < 51; ++i)
@@ -196,6 +199,18 @@ TEST_F(PairListRegistry, ReadsRandomListsBack) {
         read.ReadFromRegistry(kRoot, key);
         ASSERT_EQ(PairsOf(read), PairsOf(written));
     }
+}
+
+TEST_F(PairListRegistry, ReadsRandomListsBack) { ExpectRandomListsBack(100); }
+
+TEST(PairListSqliteRegistry, ReadsRandomListsBack) {
+    const TempFolder folder;
+    struct : TestProcess {
+        Registry& TheRegistry() override { return *kept; }
+        std::optional<SqliteRegistry> kept;
+    } process;
+    process.kept.emplace(RegistryPlaces{.own = folder.Path() / "r.sqlite", .shared = {}});
+    ExpectRandomListsBack(3);
 }
 
 TEST_F(PairListRegistry, RefusesKeysThatHoldNoList) {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/sqlite/RegistryFile.h"
+
+#include <vector>
+
+namespace zorvane {
+
+/// What a registry call's result means, for the user.
+String RegistryResultText(Long result);
+
+/// The name of a stored type: "string", "number", ...
+String TypeText(Long type);
+
+/// A value's data for the user: text up to its terminating zero, a number in decimal, other bytes
+/// in hexadecimal.
+String DataText(const StoredValue& value);
+
+/// A key and its values for people to read and compare: the key in brackets, then a line for each
+/// value. Text that does not fit a line is written as its bytes.
+String ExportText(const String& key, const std::vector<StoredValue>& values);
+
+} // namespace zorvane

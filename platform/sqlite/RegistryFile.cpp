@@ -1,0 +1,183 @@
+#include "platform/sqlite/RegistryFile.h"
+
+#include "platform/sqlite/Database.h"
+#include "runtime/Text.h"
+
+#include <sqlite3.h>
+
+#include <system_error>
+
+namespace zorvane {
+
+namespace {
+
+/// Marks the file as one of these, and tells how its tables are made.
+constexpr std::int64_t kApplication = 0x5A727652; // "ZrvR"
+constexpr std::int64_t kVersion = 1;
+constexpr const char* kMakeTables =
+    "CREATE TABLE keys (id INTEGER PRIMARY KEY AUTOINCREMENT, root INTEGER NOT NULL,"
+    " path BLOB NOT NULL, folded BLOB NOT NULL, UNIQUE (root, folded));"
+    "CREATE TABLE entries (id INTEGER PRIMARY KEY AUTOINCREMENT,"
+    " key INTEGER NOT NULL REFERENCES keys (id), name BLOB NOT NULL, folded BLOB NOT NULL,"
+    " type INTEGER NOT NULL, data BLOB NOT NULL, UNIQUE (key, folded));"
+    "PRAGMA application_id = 0x5A727652; PRAGMA user_version = 1;";
+
+Long ResultOf(int code) {
+    switch (code & 0xFF) {
+    case SQLITE_OK:
+        return kRegistrySuccess;
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return kRegistryBusy;
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+    case SQLITE_READONLY:
+    case SQLITE_CANTOPEN:
+        return kRegistryAccessDenied;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return kRegistryCorrupt;
+    case SQLITE_FULL:
+        return kRegistryDiskFull;
+    default:
+        return kRegistryNotWorking;
+    }
+}
+
+/// The number that a statement without parameters answers.
+Long AskNumber(Database& database, const char* sql, std::int64_t& number) {
+    Statement statement(database, sql);
+    if (statement.Next()) number = statement.Number(0);
+    return ResultOf(statement.Finish());
+}
+
+/// Whether the file holds a registry: kRegistryNotFound for one that is still empty,
+/// kRegistryCorrupt for one that holds something else.
+Long Recognise(Database& database) {
+    std::int64_t application = 0;
+    std::int64_t version = 0;
+    std::int64_t tables = 0;
+    for (const auto& [sql, number] : {std::pair("PRAGMA application_id", &application),
+                                      std::pair("PRAGMA user_version", &version),
+                                      std::pair("SELECT count(*) FROM sqlite_master", &tables)}) {
+        if (const Long result = AskNumber(database, sql, *number)) return result;
+    }
+    if (application == kApplication && version == kVersion) return kRegistrySuccess;
+    return tables == 0 && application == 0 ? kRegistryNotFound : kRegistryCorrupt;
+}
+
+Long MakeKeyIn(Database& database, Long root, const String& path) {
+    std::size_t end = 0;
+    do {
+        end = path.find('\\', end + 1);
+        const String part = path.substr(0, end);
+        const String folded = LowerText(part);
+        Statement insert(database, "INSERT INTO keys (root, path, folded) VALUES (?, ?, ?)"
+                                   " ON CONFLICT DO NOTHING");
+        if (const Long result = ResultOf(insert.Bind(root).Bind(part).Bind(folded).Finish()))
+            return result;
+    } while (end != path.npos);
+    return kRegistrySuccess;
+}
+
+bool Exists(const std::filesystem::path& path) {
+    std::error_code ignored;
+    return std::filesystem::exists(path, ignored);
+}
+
+} // namespace
+
+template <class Reading>
+Long RegistryFile::WhileReading(Reading reading) const {
+    if (!Exists(path_)) return kRegistryNotFound;
+    Database database;
+    if (const int code = database.Open(path_, false)) return ResultOf(code);
+    if (const Long result = Recognise(database)) return result;
+    return reading(database);
+}
+
+// The lock is taken before anything is looked at, so that what is found still holds when it is
+// acted on. A connection that goes without its commit undoes everything.
+template <class Writing>
+Long RegistryFile::WhileWriting(Writing writing) const {
+    std::error_code failed;
+    std::filesystem::create_directories(path_.parent_path(), failed);
+    Database database;
+    if (const int code = database.Open(path_, true)) return ResultOf(code);
+    if (database.IsReadOnly()) return kRegistryAccessDenied;
+    if (const int code = database.Execute("BEGIN IMMEDIATE")) return ResultOf(code);
+    Long result = Recognise(database);
+    if (result == kRegistryNotFound) result = ResultOf(database.Execute(kMakeTables));
+    if (result == kRegistrySuccess) result = writing(database);
+    return result == kRegistrySuccess ? ResultOf(database.Execute("COMMIT")) : result;
+}
+
+Long RegistryFile::HasKey(Long root, const String& path) const {
+    return WhileReading([&](Database& database) -> Long {
+        const String folded = LowerText(path);
+        Statement select(database, "SELECT id FROM keys WHERE root = ? AND folded = ?");
+        const bool found = select.Bind(root).Bind(folded).Next();
+        const Long result = ResultOf(select.Finish());
+        return result == kRegistrySuccess && !found ? Long{kRegistryNotFound} : result;
+    });
+}
+
+Long RegistryFile::MakeKey(Long root, const String& path) const {
+    return WhileWriting([&](Database& database) { return MakeKeyIn(database, root, path); });
+}
+
+Long RegistryFile::Read(Long root, const String& path, const String& name,
+                        StoredValue& value) const {
+    return WhileReading([&](Database& database) -> Long {
+        const String key = LowerText(path);
+        const String folded = LowerText(name);
+        Statement select(database,
+                         "SELECT name, type, data FROM entries WHERE folded = ?"
+                         " AND key = (SELECT id FROM keys WHERE root = ? AND folded = ?)");
+        const bool found = select.Bind(folded).Bind(root).Bind(key).Next();
+        if (found) value = {select.Bytes(0), static_cast<Long>(select.Number(1)), select.Bytes(2)};
+        const Long result = ResultOf(select.Finish());
+        return result == kRegistrySuccess && !found ? Long{kRegistryNotFound} : result;
+    });
+}
+
+// A value that is there already keeps its row, and with it its place in the list.
+Long RegistryFile::Write(Long root, const String& path, const String& name, Long type,
+                         std::string_view data) const {
+    return WhileWriting([&](Database& database) -> Long {
+        if (const Long result = MakeKeyIn(database, root, path)) return result;
+        const String key = LowerText(path);
+        const String folded = LowerText(name);
+        Statement insert(database,
+                         "INSERT INTO entries (key, name, folded, type, data)"
+                         " VALUES ((SELECT id FROM keys WHERE root = ? AND folded = ?), ?, ?, ?, ?)"
+                         " ON CONFLICT DO UPDATE SET type = excluded.type, data = excluded.data");
+        insert.Bind(root).Bind(key).Bind(name).Bind(folded).Bind(type).Bind(data);
+        return ResultOf(insert.Finish());
+    });
+}
+
+Long RegistryFile::List(Long root, const String& path, std::vector<StoredValue>& values) const {
+    return WhileReading([&](Database& database) {
+        const String key = LowerText(path);
+        Statement select(database,
+                         "SELECT name, type, data FROM entries WHERE key ="
+                         " (SELECT id FROM keys WHERE root = ? AND folded = ?) ORDER BY id");
+        select.Bind(root).Bind(key);
+        while (select.Next())
+            values.push_back(
+                {select.Bytes(0), static_cast<Long>(select.Number(1)), select.Bytes(2)});
+        return ResultOf(select.Finish());
+    });
+}
+
+Long RegistryFile::Keys(std::vector<StoredKey>& keys) const {
+    return WhileReading([&](Database& database) {
+        Statement select(database, "SELECT root, path FROM keys ORDER BY id");
+        while (select.Next())
+            keys.push_back({static_cast<Long>(select.Number(0)), select.Bytes(1)});
+        return ResultOf(select.Finish());
+    });
+}
+
+} // namespace zorvane
