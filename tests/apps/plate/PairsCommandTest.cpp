@@ -9,7 +9,8 @@ struct PairsFolder {
     ~PairsFolder() { std::filesystem::remove_all(path); }
 
     ToolRun Pairs(const String& arguments) const {
-        return ToolRun("cd " + Quoted(path) + "; " + Quoted(PLATE_TOOL) + " pairs " + arguments,
+        return ToolRun("cd " + Quoted(path) + "; ZORVANE_REGISTRY=$PWD/registry.sqlite " +
+                           Quoted(PLATE_TOOL) + " pairs " + arguments,
                        "");
     }
     void Write(const String& bytes) const {
@@ -67,6 +68,27 @@ TEST(PlatePairs, WritesTheNameOfAListBackAsItWas) {
         folder.Pairs("a.xml --set A=1");
         EXPECT_EQ(folder.Bytes(), Saved(name + field));
     }
+}
+
+TEST(PlatePairs, ExchangesListsWithTheRegistry) {
+    const PairsFolder folder;
+    folder.Write(Saved(" <Name>&quot;N&quot;</Name>\r\n"));
+    EXPECT_EQ(folder.Pairs("a.xml --set A=1 --set B=b --to-registry 'HKCU\\Tool'").exitCode, 0);
+    const ToolRun run = folder.Pairs("new.xml --from-registry 'hkey_current_user\\tool' --csv");
+    EXPECT_EQ(run.out, "name,value\nA,1\nB,b\n");
+    EXPECT_EQ(run.err, "plate: warning: B: is not kept, because its value is its name\n");
+    EXPECT_EQ(BytesOf(folder.path + "/new.xml"), folder.Bytes());
+    EXPECT_NE(folder.Bytes().find("<Name>&quot;N&quot;</Name>"), String::npos);
+
+    String many = "a.xml --to-registry 'HKCU\\Many'";
+    for (int i = 0; i < 60; ++i)
+        many += " --set v" + std::to_string(i) + "=1";
+    const ToolRun cut = folder.Pairs(many);
+    EXPECT_EQ(cut.exitCode, 1);
+    EXPECT_NE(cut.err.find("HKEY_CURRENT_USER\\Many: 10 of the pairs cannot be read back"),
+              String::npos)
+        << cut.err;
+    EXPECT_EQ(folder.Pairs("b.xml --from-registry 'HKCU\\None'").exitCode, 1);
 }
 
 TEST(PlatePairs, LeavesTheFileAloneWhenItFails) {
