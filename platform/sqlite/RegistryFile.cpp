@@ -5,7 +5,9 @@
 
 #include <sqlite3.h>
 
+#include <exception>
 #include <system_error>
+#include <utility>
 
 namespace zorvane {
 
@@ -21,6 +23,10 @@ constexpr const char* kMakeTables =
     " key INTEGER NOT NULL REFERENCES keys (id), name BLOB NOT NULL, folded BLOB NOT NULL,"
     " type INTEGER NOT NULL, data BLOB NOT NULL, UNIQUE (key, folded));"
     "PRAGMA application_id = 0x5A727652; PRAGMA user_version = 1;";
+
+// The end of the journal reaches the disk too, without which a power failure could undo what has
+// been answered.
+constexpr const char* kBeginWriting = "PRAGMA synchronous = EXTRA; BEGIN IMMEDIATE";
 
 Long ResultOf(int code) {
     switch (code & 0xFF) {
@@ -80,36 +86,71 @@ Long MakeKeyIn(Database& database, Long root, const String& path) {
     return kRegistrySuccess;
 }
 
-bool Exists(const std::filesystem::path& path) {
-    std::error_code ignored;
-    return std::filesystem::exists(path, ignored);
+namespace fs = std::filesystem;
+
+/// kRegistryNotFound for a missing file, kRegistryAccessDenied for what is no file: what is written
+/// to a device is gone.
+Long Look(const fs::path& path) {
+    std::error_code failed;
+    const fs::file_status status = fs::status(path, failed);
+    if (status.type() == fs::file_type::not_found) return kRegistryNotFound;
+    return fs::is_regular_file(status) ? kRegistrySuccess : kRegistryAccessDenied;
+}
+
+/// Makes the folders that are missing, for this user alone as the desktop's rules want it, or for
+/// everybody to read.
+void MakeFolders(const fs::path& folder, bool forEverybody) {
+    if (folder.empty() || fs::is_directory(folder)) return;
+    MakeFolders(folder.parent_path(), forEverybody);
+    if (fs::create_directory(folder) && !forEverybody)
+        fs::permissions(folder, fs::perms::owner_all);
+}
+
+/// Runs what answers a result, and answers one for what is thrown as well.
+template <class Action>
+Long Guarded(Action action) {
+    try {
+        return action();
+    } catch (const fs::filesystem_error& error) {
+        return error.code() == std::errc::no_space_on_device ? kRegistryDiskFull
+                                                             : kRegistryAccessDenied;
+    } catch (const std::exception&) { // no memory for data of this size
+        return kRegistryNotWorking;
+    }
 }
 
 } // namespace
 
+// All that is looked at is of one moment: a file that another process is just making would else
+// look like one that holds something else.
 template <class Reading>
 Long RegistryFile::WhileReading(Reading reading) const {
-    if (!Exists(path_)) return kRegistryNotFound;
-    Database database;
-    if (const int code = database.Open(path_, false)) return ResultOf(code);
-    if (const Long result = Recognise(database)) return result;
-    return reading(database);
+    return Guarded([&]() -> Long {
+        if (const Long result = Look(path_)) return result;
+        Database database;
+        if (const int code = database.Open(path_, false)) return ResultOf(code);
+        if (const int code = database.Execute("BEGIN")) return ResultOf(code);
+        if (const Long result = Recognise(database)) return result;
+        return reading(database);
+    });
 }
 
 // The lock is taken before anything is looked at, so that what is found still holds when it is
 // acted on. A connection that goes without its commit undoes everything.
 template <class Writing>
 Long RegistryFile::WhileWriting(Writing writing) const {
-    std::error_code failed;
-    std::filesystem::create_directories(path_.parent_path(), failed);
-    Database database;
-    if (const int code = database.Open(path_, true)) return ResultOf(code);
-    if (database.IsReadOnly()) return kRegistryAccessDenied;
-    if (const int code = database.Execute("BEGIN IMMEDIATE")) return ResultOf(code);
-    Long result = Recognise(database);
-    if (result == kRegistryNotFound) result = ResultOf(database.Execute(kMakeTables));
-    if (result == kRegistrySuccess) result = writing(database);
-    return result == kRegistrySuccess ? ResultOf(database.Execute("COMMIT")) : result;
+    return Guarded([&]() -> Long {
+        if (Look(path_) == kRegistryAccessDenied) return kRegistryAccessDenied;
+        MakeFolders(path_.parent_path(), shared_);
+        Database database;
+        if (const int code = database.Open(path_, true)) return ResultOf(code);
+        if (database.IsReadOnly()) return kRegistryAccessDenied;
+        if (const int code = database.Execute(kBeginWriting)) return ResultOf(code);
+        Long result = Recognise(database);
+        if (result == kRegistryNotFound) result = ResultOf(database.Execute(kMakeTables));
+        if (result == kRegistrySuccess) result = writing(database);
+        return result == kRegistrySuccess ? ResultOf(database.Execute("COMMIT")) : result;
+    });
 }
 
 Long RegistryFile::HasKey(Long root, const String& path) const {
@@ -164,9 +205,10 @@ Long RegistryFile::List(Long root, const String& path, std::vector<StoredValue>&
                          "SELECT name, type, data FROM entries WHERE key ="
                          " (SELECT id FROM keys WHERE root = ? AND folded = ?) ORDER BY id");
         select.Bind(root).Bind(key);
-        while (select.Next())
+        while (select.Next()) {
             values.push_back(
                 {select.Bytes(0), static_cast<Long>(select.Number(1)), select.Bytes(2)});
+        }
         return ResultOf(select.Finish());
     });
 }

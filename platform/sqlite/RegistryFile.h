@@ -29,7 +29,13 @@ struct StoredKey {
 /// it, unlike the write-ahead log, a file in a directory that can't be written can be read.
 class RegistryFile {
   public:
-    explicit RegistryFile(std::filesystem::path path) : path_(std::move(path)) {}
+    /// A file for one user or one that all users share, which decides who may look into the folders
+    /// that are made for it.
+    enum class Users { One, All };
+    RegistryFile(std::filesystem::path path, Users users)
+        : path_(std::move(path)), shared_(users == Users::All) {}
+
+    const std::filesystem::path& Path() const { return path_; }
 
     Long HasKey(Long root, const String& path) const;
     /// Makes a key and what is missing of its path, with the directory that the file lies in.
@@ -50,6 +56,7 @@ class RegistryFile {
     Long WhileWriting(Writing writing) const;
 
     std::filesystem::path path_;
+    bool shared_;
 };
 
 } // namespace zorvane

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace zorvane {
 
@@ -21,7 +22,7 @@ std::optional<Path> RegistryBelow(const Path& directory) {
 }
 
 std::optional<Path> OwnPlace() {
-    if (const auto named = RegistryBelow(Environment("XDG_CONFIG_HOME"))) return named;
+    if (auto named = RegistryBelow(Environment("XDG_CONFIG_HOME"))) return named;
     const Path home = Environment("HOME");
     return home.is_absolute() ? RegistryBelow(home / ".config") : std::nullopt;
 }
@@ -31,7 +32,7 @@ std::optional<Path> SharedPlace() {
     std::string_view rest = directories;
     while (!rest.empty()) {
         const std::string_view first = rest.substr(0, rest.find(':'));
-        if (const auto named = RegistryBelow(first)) return named;
+        if (auto named = RegistryBelow(first)) return named;
         rest.remove_prefix(first.size() + (first.size() < rest.size() ? 1 : 0));
     }
     return RegistryBelow("/etc/xdg");
@@ -41,8 +42,11 @@ std::optional<Path> SharedPlace() {
 
 RegistryPlaces PlacesInForce() {
     const Path named = Environment("ZORVANE_REGISTRY");
-    if (!named.empty()) return {.own = named, .shared = std::nullopt};
-    return {.own = OwnPlace(), .shared = SharedPlace()};
+    if (named.empty()) return {.own = OwnPlace(), .shared = SharedPlace()};
+    // SQLite would take names like ":memory:" for something else than files.
+    std::error_code failed;
+    const Path whole = std::filesystem::absolute(named, failed);
+    return {.own = failed ? std::nullopt : std::optional(whole), .shared = std::nullopt};
 }
 
 } // namespace zorvane

@@ -14,7 +14,7 @@ struct RegistryPlaces {
 /// Where the desktop's XDG base directory rules have them: zorvane/registry.sqlite below
 /// XDG_CONFIG_HOME (or HOME/.config) and below the first of XDG_CONFIG_DIRS (or /etc/xdg). As they
 /// say, paths that are not absolute are passed over. The environment variable ZORVANE_REGISTRY
-/// names a file for everything instead.
+/// names a file for everything instead. Every name is absolute.
 RegistryPlaces PlacesInForce();
 
 } // namespace zorvane

@@ -2,15 +2,14 @@
 
 #include "runtime/Text.h"
 
-#include <algorithm>
-#include <iterator>
+#include <set>
 #include <utility>
 
 namespace zorvane {
 
 SqliteRegistry::SqliteRegistry(const RegistryPlaces& places) {
-    if (places.own) own_.emplace(*places.own);
-    if (places.shared) shared_.emplace(*places.shared);
+    if (places.own) own_.emplace(*places.own, RegistryFile::Users::One);
+    if (places.shared) shared_.emplace(*places.shared, RegistryFile::Users::All);
 }
 
 std::vector<const RegistryFile*> SqliteRegistry::FilesOf(Long root) const {
@@ -93,7 +92,7 @@ Long SqliteRegistry::EnumValue(Handle key, Long index, Long nameCapacity, Long d
                                String& name, String& data) {
     OpenedKey* const opened = Opened(key);
     if (!opened) return kRegistryInvalidHandle;
-    if (index == 0) {
+    if (index == 0 || opened->values.empty()) {
         opened->values.clear();
         if (const Long result = Values(opened->root, opened->path, opened->values)) return result;
     }
@@ -112,37 +111,48 @@ Long SqliteRegistry::CloseKey(Handle key) {
     return handles_.erase(key) != 0 ? kRegistrySuccess : kRegistryInvalidHandle;
 }
 
-Long SqliteRegistry::Keys(std::vector<StoredKey>& keys) const {
-    for (const RegistryFile* file : FilesOf(kLocalMachine)) {
-        std::vector<StoredKey> found;
-        const Long result = file->Keys(found);
-        if (result != kRegistrySuccess && result != kRegistryNotFound) return result;
-        for (StoredKey& key : found) {
-            const bool known = std::any_of(keys.begin(), keys.end(), [&](const StoredKey& other) {
-                return other.root == key.root && EqualNoCase(other.path, key.path);
-            });
-            const bool served = file == &*own_ || key.root == kLocalMachine;
-            if (served && !known) keys.push_back(std::move(key));
-        }
+/// Asks every file for keys of a root. One that may not be read hides nothing of the other.
+template <class Reading>
+Long SqliteRegistry::FromEach(Long root, Reading reading) const {
+    bool read = false;
+    bool denied = false;
+    for (const RegistryFile* file : FilesOf(root)) {
+        const Long result = reading(*file);
+        read = read || result == kRegistrySuccess;
+        denied = denied || result == kRegistryAccessDenied;
+        const bool harmless = result == kRegistrySuccess || result == kRegistryNotFound ||
+                              result == kRegistryAccessDenied;
+        if (!harmless) return result;
     }
-    return kRegistrySuccess;
+    return denied && !read ? kRegistryAccessDenied : kRegistrySuccess;
+}
+
+Long SqliteRegistry::Keys(std::vector<StoredKey>& keys) const {
+    std::map<std::pair<Long, String>, StoredKey> sorted;
+    const Long result = FromEach(kLocalMachine, [&](const RegistryFile& file) {
+        std::vector<StoredKey> found;
+        const Long answer = file.Keys(found);
+        const bool servesAll = own_ && &file == &*own_;
+        for (StoredKey& key : found) {
+            if (servesAll || key.root == kLocalMachine)
+                sorted.try_emplace({key.root, LowerText(key.path)}, std::move(key));
+        }
+        return answer;
+    });
+    for (auto& [order, key] : sorted)
+        keys.push_back(std::move(key));
+    return result;
 }
 
 Long SqliteRegistry::Values(Long root, const String& key, std::vector<StoredValue>& values) const {
-    for (const RegistryFile* file : FilesOf(root)) {
+    std::set<String> names;
+    return FromEach(root, [&](const RegistryFile& file) {
         std::vector<StoredValue> found;
-        const Long result = file->List(root, key, found);
-        if (result != kRegistrySuccess && result != kRegistryNotFound) return result;
-        const auto ownEnd = static_cast<std::ptrdiff_t>(values.size());
-        std::copy_if(std::move_iterator(found.begin()), std::move_iterator(found.end()),
-                     std::back_inserter(values), [&](const StoredValue& value) {
-                         return std::none_of(values.begin(), values.begin() + ownEnd,
-                                             [&](const StoredValue& own) {
-                                                 return EqualNoCase(own.name, value.name);
-                                             });
-                     });
-    }
-    return kRegistrySuccess;
+        const Long answer = file.List(root, key, found);
+        for (StoredValue& value : found)
+            if (names.insert(LowerText(value.name)).second) values.push_back(std::move(value));
+        return answer;
+    });
 }
 
 SqliteRegistry::OpenedKey* SqliteRegistry::Opened(Handle key) {

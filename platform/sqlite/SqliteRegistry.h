@@ -31,7 +31,7 @@ class SqliteRegistry final : public Registry {
                    String& data) override;
     Long CloseKey(Handle key) override;
 
-    /// Every key, those of the user's own file first.
+    /// Every key, by root and in alphabetical order.
     Long Keys(std::vector<StoredKey>& keys) const;
     /// The values of a key with their types, as they are enumerated.
     Long Values(Long root, const String& key, std::vector<StoredValue>& values) const;
@@ -46,6 +46,8 @@ class SqliteRegistry final : public Registry {
     /// The files that hold keys of a root, in the order in which they are read.
     std::vector<const RegistryFile*> FilesOf(Long root) const;
     Long HasKey(Long root, const String& path) const;
+    template <class Reading>
+    Long FromEach(Long root, Reading reading) const;
     template <class Writing>
     Long WriteWherePossible(Long root, Writing writing) const;
     OpenedKey* Opened(Handle key);

@@ -3,6 +3,7 @@
 #include "TempFolder.h"
 #include "platform/sqlite/Database.h"
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
@@ -91,21 +92,81 @@ TEST(SqliteRegistry, WhoMayNotWriteTheMachinesFileWritesAndReadsTheirOwn) {
     EXPECT_EQ(Get(machine, kLocalMachine, "V"), "new");
 }
 
+/// The bytes of a registry with a value V, and of an SQLite file of somebody else.
+String RegistryBytes() {
+    const TempFile file;
+    SqliteRegistry registry({.own = file.Path(), .shared = {}});
+    EXPECT_EQ(Set(registry, kCurrentUser, "V", "x"), kRegistrySuccess);
+    return file.Bytes();
+}
+String ForeignBytes() {
+    const TempFile file;
+    Database database;
+    EXPECT_EQ(database.Open(file.Path(), true), 0);
+    EXPECT_EQ(database.Execute("CREATE TABLE keys (a); PRAGMA user_version = 1"), 0);
+    return file.Bytes();
+}
+
 TEST(SqliteRegistry, LeavesFilesThatHoldSomethingElseAlone) {
+    const String good = RegistryBytes();
+    String later = good;
+    later[63] = 2; // the version of the tables
+    String torn = good;
+    std::fill(torn.begin() + 100, torn.begin() + 4096, '\xA5');
     const struct {
-        const char* bytes;
+        String bytes;
         Long result;
     } rows[] = {{"this is no database, but a text that someone needs", kRegistryCorrupt},
+                {torn, kRegistryCorrupt},
+                {good.substr(0, 5000), kRegistryCorrupt},
+                {later, kRegistryCorrupt},
+                {ForeignBytes(), kRegistryCorrupt},
                 {"", kRegistrySuccess}};
     for (const auto& row : rows) {
+        const String start =
+            row.bytes.substr(0, 20) + ", bytes " + std::to_string(row.bytes.size());
         const TempFile file(row.bytes);
         SqliteRegistry registry({.own = file.Path(), .shared = {}});
         const Long read = row.result == kRegistrySuccess ? Long{kRegistryNotFound} : row.result;
-        EXPECT_EQ(Get(registry, kCurrentUser, "V"), "(" + std::to_string(read) + ")");
-        EXPECT_EQ(Set(registry, kCurrentUser, "V", "x"), row.result) << row.bytes;
+        EXPECT_EQ(Get(registry, kCurrentUser, "V"), "(" + std::to_string(read) + ")") << start;
+        EXPECT_EQ(Set(registry, kCurrentUser, "V", "x"), row.result) << start;
         if (row.result != kRegistrySuccess) {
-            EXPECT_EQ(file.Bytes(), row.bytes);
+            EXPECT_EQ(file.Bytes(), row.bytes) << start;
         }
+    }
+}
+
+/// Without the rights of an administrator, to whom no file is closed.
+struct PlainUser {
+    const bool left = geteuid() == 0 && seteuid(65534) == 0;
+    ~PlainUser() {
+        if (left && seteuid(0) != 0) std::abort();
+    }
+};
+
+TEST(SqliteRegistry, RefusesPlacesThatCannotBeWritten) {
+    using std::filesystem::perms;
+    const TempFolder folder;
+    const auto written = folder.Path() / "written.sqlite";
+    SqliteRegistry full({.own = written, .shared = {}});
+    ASSERT_EQ(Set(full, kCurrentUser, "V", "kept"), kRegistrySuccess);
+    const auto closed = folder.Path() / "closed";
+    std::filesystem::create_directory(closed);
+    std::filesystem::permissions(written,
+                                 perms::owner_read | perms::group_read | perms::others_read);
+    std::filesystem::permissions(closed, perms::none);
+    const PlainUser user;
+    EXPECT_EQ(Get(full, kCurrentUser, "V"), "kept");
+    for (const std::filesystem::path& place :
+         {written, closed / "r.sqlite", folder.Path() / "new" / "r.sqlite", folder.Path(),
+          folder.Path() / String(300, 'x'), std::filesystem::path("/dev/null")}) {
+        SqliteRegistry registry({.own = place, .shared = {}});
+        EXPECT_EQ(Set(registry, kCurrentUser, "W", "x"), kRegistryAccessDenied) << place;
+        // What may not be read hides nothing.
+        SqliteRegistry behind({.own = written, .shared = place});
+        std::vector<StoredKey> keys;
+        EXPECT_EQ(behind.Keys(keys), kRegistrySuccess) << place;
+        EXPECT_EQ(keys.size(), 1U) << place;
     }
 }
 
@@ -191,7 +252,22 @@ TEST(SqliteRegistry, ProcessesThatWriteAtOnceLoseNothingWhenOneIsKilled) {
     EXPECT_TRUE(check.Next() && check.Bytes(0) == "ok");
 }
 
+TEST(SqliteRegistry, AFileThatIsJustBeingMadeIsNoneYet) {
+    const TempFolder folder;
+    for (int round = 0; round < 10; ++round) {
+        const auto file = folder.Path() / std::to_string(round);
+        Writer writer(file, "V");
+        SqliteRegistry registry({.own = file, .shared = {}});
+        String found;
+        do {
+            found = Get(registry, kCurrentUser, "V0");
+        } while (found == "(2)");
+        ASSERT_EQ(found, "0");
+    }
+}
+
 TEST(RegistryPlaces, FollowTheDesktopsRules) {
+    const String here = std::filesystem::absolute(":memory:").string();
     const struct {
         std::map<const char*, const char*> environment;
         const char* own;
@@ -207,7 +283,7 @@ TEST(RegistryPlaces, FollowTheDesktopsRules) {
          "/home/u/.config/zorvane/registry.sqlite",
          "/e/zorvane/registry.sqlite"},
         {{}, "", "/etc/xdg/zorvane/registry.sqlite"},
-        {{{"HOME", "/home/u"}, {"ZORVANE_REGISTRY", "here.sqlite"}}, "here.sqlite", ""},
+        {{{"HOME", "/home/u"}, {"ZORVANE_REGISTRY", ":memory:"}}, here.c_str(), ""},
     };
     for (const auto& row : rows) {
         for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "ZORVANE_REGISTRY"})
