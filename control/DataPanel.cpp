@@ -53,9 +53,9 @@ void ChoosePage(ControlParts parts, Integer position) {
         Raise(ErrorNumber::InvalidProcedureCall);
     panel.comboSelect.position = position;
     FillPage(parts, position);
-    panel.mnuPopup[mnuAddNewSubWell].enabled = position >= kGeneralPage;
+    panel.Entry(mnuAddNewSubWell).enabled = position >= kGeneralPage;
     for (const auto command : {mnuRemoveSubWell, mnuMoveUp, mnuMoveDown, mnuRenameSubwell})
-        panel.mnuPopup[command].enabled = position > kGeneralPage;
+        panel.Entry(command).enabled = position > kGeneralPage;
 }
 
 // The row text boxes take text all the same; without the Apply button it goes nowhere.

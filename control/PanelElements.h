@@ -58,6 +58,7 @@ struct PanelElements {
     /// The entries of the menu that cmdPopup opens, by SubWellCommand.
     std::vector<MenuEntry> mnuPopup;
 
+    MenuEntry& Entry(SubWellCommand command) { return mnuPopup[static_cast<std::size_t>(command)]; }
     /// Makes sure that there is a row of this number, as a copy of row 0, over which it then lies.
     void CreateRow(std::size_t row);
 };

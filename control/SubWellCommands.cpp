@@ -79,20 +79,11 @@ class Commands {
         LayOut();
     }
 
-    void ShiftAcross() {
-        if (const Single distance = AskDistance(kMoveCenters, "right", "X Shift"))
-            Shift(distance, 0, 0);
-    }
+    void ShiftAcross() { Shift(AskDistance(kMoveCenters, "right", "X Shift"), 0, 0); }
 
-    void ShiftDown() {
-        if (const Single distance = AskDistance(kMoveCenters, "down", "Y Shift"))
-            Shift(0, distance, 0);
-    }
+    void ShiftDown() { Shift(0, AskDistance(kMoveCenters, "down", "Y Shift"), 0); }
 
-    void Raise() {
-        if (const Single distance = AskDistance(kMoveBottoms, "up", "Z Shift"))
-            Shift(0, 0, distance);
-    }
+    void Raise() { Shift(0, 0, AskDistance(kMoveBottoms, "up", "Z Shift")); }
 
   private:
     cmPlate& Plate() const { return parts_.state.Definition(); }
@@ -114,6 +105,7 @@ class Commands {
     }
 
     void Shift(Single dX, Single dY, Single dZ) {
+        if (dX == 0 && dY == 0 && dZ == 0) return;
         Plate().ShiftWells(dX, dY, dZ);
         LayOut();
     }
