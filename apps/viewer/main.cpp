@@ -1,8 +1,10 @@
 #include "apps/viewer/MainWindow.h"
 #include "apps/viewer/Picture.h"
+#include "apps/viewer/PlateSession.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QStyle>
 #include <QTextStream>
 
@@ -33,9 +35,10 @@ Options ReadOptions(const QCoreApplication& app) {
     parser.addOption({{QStringLiteral("o"), QStringLiteral("output")},
                       QCoreApplication::tr("The image file that --picture writes."),
                       QStringLiteral("file")});
-    parser.addPositionalArgument(QStringLiteral("library"),
-                                 QCoreApplication::tr("Plate library to open."),
-                                 QStringLiteral("[library]"));
+    parser.addPositionalArgument(
+        QStringLiteral("library"),
+        QCoreApplication::tr("Plate library to open; else the one that the registry leads to."),
+        QStringLiteral("[library]"));
     parser.process(app);
     const QStringList files = parser.positionalArguments();
     Options options{parser.value(QStringLiteral("picture")), parser.value(QStringLiteral("output")),
@@ -71,6 +74,12 @@ void ChooseStyle() {
     if (QApplication::style()->name() == QLatin1String("windows")) QApplication::setStyle("fusion");
 }
 
+/// The library that the registry leads every control to, where there is one.
+QString DefaultLibrary(MainWindow& window) {
+    const QString file = window.Session().Widget().fileName();
+    return QFileInfo::exists(file) ? file : QString();
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -87,6 +96,8 @@ int main(int argc, char** argv) {
     if (!options.picture.isEmpty()) return Draw(options);
     MainWindow window;
     window.show();
-    if (!options.plateLibrary.isEmpty()) window.OpenLibrary(options.plateLibrary);
+    const QString file =
+        options.plateLibrary.isEmpty() ? DefaultLibrary(window) : options.plateLibrary;
+    if (!file.isEmpty()) window.OpenLibrary(file);
     return QApplication::exec();
 }
