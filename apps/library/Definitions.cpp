@@ -9,6 +9,27 @@
 /// Changes to the text of one definition.
 namespace zorvane {
 
+namespace {
+
+bool IsComment(std::string_view line) { return TrimStart(line).substr(0, 1) == ";"; }
+
+/// Leaves out the last comment line with each of the texts.
+String WithoutComments(const String& definition, const std::vector<String>& comments) {
+    std::vector<TextLine> lines = LinesOf(definition);
+    for (const String& comment : comments) {
+        const auto same = std::find_if(lines.rbegin(), lines.rend(), [&](const TextLine& line) {
+            return IsComment(line.text) && Trim(TrimStart(line.text).substr(1)) == comment;
+        });
+        if (same != lines.rend()) lines.erase(std::next(same).base());
+    }
+    String text;
+    for (const TextLine& line : lines)
+        text.append(line.text).append(line.end);
+    return text;
+}
+
+} // namespace
+
 String NameIn(std::string_view definition) {
     for (const TextLine& line : LinesOf(definition)) {
         const LineParts parts(line.text);
@@ -31,19 +52,27 @@ String Renamed(const String& definition, const String& name) {
     return text;
 }
 
+cmPlate PlateIn(const String& text) {
+    TextFile file;
+    file.OpenText(text);
+    cmPlate plate;
+    plate.ReadNextPlate(file);
+    return plate;
+}
+
+String WithoutEchoes(const String& definition) {
+    String others;
+    for (const TextLine& line : LinesOf(definition))
+        if (!IsComment(line.text)) others.append(line.text).append(line.end);
+    std::vector<String> echoes;
+    const cmPlate plate = PlateIn(others);
+    for (const TextLine& line : LinesOf(plate.Comment))
+        echoes.emplace_back(Trim(line.text));
+    return WithoutComments(definition, echoes);
+}
+
 String WithoutCommentsBehind(const String& definition, const PlateBlock& block) {
-    std::vector<TextLine> lines = LinesOf(definition);
-    for (const String& comment : block.commentsBehind) {
-        const auto same = std::find_if(lines.rbegin(), lines.rend(), [&](const TextLine& line) {
-            const std::string_view text = TrimStart(line.text);
-            return text.substr(0, 1) == ";" && Trim(text.substr(1)) == comment;
-        });
-        if (same != lines.rend()) lines.erase(std::next(same).base());
-    }
-    String text;
-    for (const TextLine& line : lines)
-        text.append(line.text).append(line.end);
-    return text;
+    return WithoutComments(definition, block.commentsBehind);
 }
 
 } // namespace zorvane

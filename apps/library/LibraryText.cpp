@@ -108,6 +108,10 @@ PlateBlock LibraryText::Get(const String& name) const {
     return *std::move(block);
 }
 
+cmPlate LibraryText::PlateOf(const PlateBlock& block) const {
+    return PlateIn(bytes_.substr(block.begin, block.readTo - block.begin));
+}
+
 std::string_view LibraryText::Of(const PlateBlock& block) const {
     return std::string_view(bytes_).substr(block.begin, block.end - block.begin);
 }
@@ -132,7 +136,8 @@ String LibraryText::Fitted(std::string_view definition, std::string_view lineEnd
 
 LibraryText LibraryText::WithReplaced(const String& definition) const {
     const PlateBlock old = Get(NameIn(definition));
-    String text = Fitted(WithoutCommentsBehind(definition, old), LineEndAt(old.begin, old.end));
+    String text = Fitted(WithoutCommentsBehind(WithoutEchoes(definition), old),
+                         LineEndAt(old.begin, old.end));
     const bool unended = Of(old).find_last_of("\r\n") + 1 != Of(old).size();
     if (unended) text = TrimEnd(text);
 
@@ -155,7 +160,7 @@ LibraryText LibraryText::WithAppended(const String& definition) const {
     if (!lines.empty() && lines.back().end.empty()) text.append(lineEnd);
     if (!lines.empty() && !Trim(lines.back().text).empty()) text.append(lineEnd);
     const std::size_t begin = text.size();
-    LibraryText result(text.append(Fitted(definition, lineEnd)));
+    LibraryText result(text.append(Fitted(WithoutEchoes(definition), lineEnd)));
     const auto now = result.Find(name);
     if (!now) Fail(result.WhyNotFound(name));
     if (now->begin != begin || now->end != result.bytes_.size())

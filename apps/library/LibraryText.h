@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/cmPlate.h"
 #include "runtime/Types.h"
 
 #include <cstddef>
@@ -38,6 +39,8 @@ class LibraryText {
     std::optional<PlateBlock> Find(const String& name) const;
     /// Find, or the failure that tells why there is no such plate.
     PlateBlock Get(const String& name) const;
+    /// The plate of a block, read alone.
+    cmPlate PlateOf(const PlateBlock& block) const;
     /// The bytes of a block.
     std::string_view Of(const PlateBlock& block) const;
 
@@ -61,6 +64,13 @@ String NameIn(std::string_view definition);
 
 /// A definition with another name; error when a library could not give a plate of that name.
 String Renamed(const String& definition, const String& name);
+
+/// The first plate that a text defines.
+cmPlate PlateIn(const String& text);
+
+/// A definition without the comment lines that the reader makes again of comments at the end of
+/// other lines, so that they do not double with each writing and reading.
+String WithoutEchoes(const String& definition);
 
 /// A definition without the comment lines that stand behind the plate in its library, and would be
 /// there twice if they were written into the plate.

@@ -74,8 +74,7 @@ std::vector<PlateEdit> EditsIn(const CLI::App& parser, const Options& options) {
 }
 
 String Edited(const LibraryText& library, const String& name, const std::vector<PlateEdit>& edits) {
-    const PlateBlock block = library.Get(name);
-    cmPlate plate = PlateIn(library.Bytes().substr(block.begin, block.readTo - block.begin));
+    cmPlate plate = library.PlateOf(library.Get(name));
     for (const PlateEdit& edit : edits)
         edit(plate);
     return TextOf(plate);

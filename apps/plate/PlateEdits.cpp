@@ -1,5 +1,6 @@
 #include "apps/plate/PlateEdits.h"
 
+#include "apps/library/LibraryText.h"
 #include "apps/plate/Files.h"
 #include "platetext/EveryValue.h"
 #include "runtime/Checked.h"
@@ -141,14 +142,6 @@ PlateEdit Addition(const String& names) {
     return [pair = Pair(names, '=', "NEW=FROM")](cmPlate& plate) {
         Add(plate, pair.first, pair.second);
     };
-}
-
-cmPlate PlateIn(const String& text) {
-    TextFile file;
-    file.OpenText(text);
-    cmPlate plate;
-    plate.ReadNextPlate(file);
-    return plate;
 }
 
 String TextOf(cmPlate& plate) {

@@ -24,8 +24,6 @@ PlateEdit Removal(const String& name);
 /// "NEW=FROM": the new sub-well comes last and has the values of another one.
 PlateEdit Addition(const String& names);
 
-/// The first plate that a text defines, read alone.
-cmPlate PlateIn(const String& text);
 /// The text of an edited plate. Fails when the reader would make another plate of it.
 String TextOf(cmPlate& plate);
 

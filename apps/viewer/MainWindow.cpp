@@ -1,5 +1,7 @@
 #include "apps/viewer/MainWindow.h"
 
+#include "apps/viewer/DifferencePanel.h"
+#include "apps/viewer/EditMode.h"
 #include "apps/viewer/EventLog.h"
 #include "apps/viewer/LibraryPanel.h"
 #include "apps/viewer/PlateSession.h"
@@ -73,8 +75,9 @@ MainWindow::MainWindow() : view_(new PlateView), session_(new PlateSession(view_
     tools_->setObjectName(QStringLiteral("Tools"));
     tools_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     MakeFileMenu();
-    MakeWellsMenu();
     MakePanels();
+    MakeEditMenu();
+    MakeWellsMenu();
     MakeViewMenu();
     MakeHelpMenu();
     LogEvents();
@@ -108,6 +111,11 @@ void MainWindow::MakePanels() {
         MakeDock(*this, tr("Settings"), Scrolled(settings), Qt::RightDockWidgetArea);
     tabifyDockWidget(well, options);
     well->raise();
+    auto* difference = new DifferencePanel;
+    difference_ = MakeDock(*this, tr("Difference"), difference, Qt::RightDockWidgetArea);
+    tabifyDockWidget(options, difference_);
+    difference_->hide();
+    editing_ = new EditMode(*session_, *difference, EditQuestions::Over(*this), this);
     QDockWidget* events = MakeDock(*this, tr("Events"), log_, Qt::BottomDockWidgetArea);
     setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
@@ -122,15 +130,22 @@ void MainWindow::LogEvents() {
     session_->Control().AddObserver(*events_);
 }
 
-bool MainWindow::OpenLibrary(const QString& file) {
-    LibraryListing listing;
+bool MainWindow::ReadListing(const QString& file, LibraryListing& listing) {
     try {
         listing = ListLibrary(file.toStdString());
+        return true;
     } catch (const RuntimeError& error) {
         Warn(tr("%1 cannot be opened: %2.")
                  .arg(QFileInfo(file).fileName(), QString::fromStdString(error.Description())));
         return false;
     }
+}
+
+bool MainWindow::OpenLibrary(const QString& file) {
+    LibraryListing listing;
+    if (!editing_->MayLeave() || !ReadListing(file, listing)) return false;
+    editing_->Stop();
+    edit_->setChecked(false);
     file_ = file;
     library_->Show(listing);
     recent_->Add(file);
@@ -140,8 +155,13 @@ bool MainWindow::OpenLibrary(const QString& file) {
 
 void MainWindow::ShowPlate(const QString& name) {
     statusBar()->clearMessage();
-    if (!session_->Open(file_, name))
+    const bool opened = editing_->MayLeave() && session_->Open(file_, name);
+    if (!opened) {
         library_->SetChosen(QString::fromStdString(session_->Control().PlateName()));
+    } else if (editing_->IsOn() && !editing_->Start(file_, name)) {
+        editing_->Stop();
+        edit_->setChecked(false);
+    }
     ShowTitle();
 }
 
@@ -151,7 +171,7 @@ void MainWindow::ShowTitle() {
         action->setEnabled(session_->HasWells());
     setWindowTitle(plate.isEmpty()
                        ? tr("Plate Viewer")
-                       : tr("%1 – %2 – Plate Viewer").arg(plate, QFileInfo(file_).fileName()));
+                       : tr("%1[*] – %2 – Plate Viewer").arg(plate, QFileInfo(file_).fileName()));
 }
 
 void MainWindow::ShowSelection() {

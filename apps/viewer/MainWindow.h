@@ -1,16 +1,20 @@
 #pragma once
 
+#include "platetext/LibraryIndex.h"
+
 #include <QMainWindow>
 
 #include <memory>
 #include <vector>
 
+class QDockWidget;
 class QLabel;
 class QMenu;
 class QToolBar;
 
 namespace zorvane {
 
+class EditMode;
 class EventLog;
 class EventTexts;
 class LibraryPanel;
@@ -32,6 +36,7 @@ class MainWindow final : public QMainWindow {
     /// what was open, when the file cannot be read.
     bool OpenLibrary(const QString& file);
     PlateSession& Session() { return *session_; }
+    EditMode& Editing() { return *editing_; }
 
     /// Reads data of wells from a file, or writes them to one. Returns what is wrong, with nothing
     /// changed by a file that cannot be read to its end; empty text when done.
@@ -41,10 +46,12 @@ class MainWindow final : public QMainWindow {
   protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
   private:
     void MakePanels();
     void MakeFileMenu();
+    void MakeEditMenu();
     void MakeWellsMenu();
     void MakeViewMenu();
     void MakeHelpMenu();
@@ -58,6 +65,10 @@ class MainWindow final : public QMainWindow {
     void AskForFill();
     void ShowAbout();
     void Warn(const QString& text);
+    void SwitchEditing(bool on);
+    void ShowEditing();
+    void ListAgain(const QString& plate);
+    bool ReadListing(const QString& file, LibraryListing& listing);
     void ShowPlate(const QString& name);
     void ShowTitle();
     void ShowSelection();
@@ -67,6 +78,12 @@ class MainWindow final : public QMainWindow {
     LibraryPanel* library_ = nullptr;
     EventLog* log_ = nullptr;
     RecentFiles* recent_ = nullptr;
+    EditMode* editing_ = nullptr;
+    QDockWidget* difference_ = nullptr;
+    QAction* edit_ = nullptr;
+    QAction* undo_ = nullptr;
+    QAction* redo_ = nullptr;
+    std::vector<QAction*> needEditing_;
     QToolBar* tools_ = nullptr;
     QLabel* selection_ = nullptr;
     std::vector<QAction*> needPlate_;

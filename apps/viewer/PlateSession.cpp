@@ -13,7 +13,10 @@ PlateSession::PlateSession(PlateWidget& widget, QObject* parent)
     connect(&widget_, &PlateWidget::dragMoved, this,
             [this](int, int, int columns, int rows) { MoveSelection(columns, rows); });
     connect(&widget_, &PlateWidget::failed, this,
-            [this](int, const QString&, const QString& description) { emit failed(description); });
+            [this](int number, const QString&, const QString& description) {
+                emit failed(description);
+                emit refused(number, description);
+            });
 }
 
 bool PlateSession::Open(const QString& library, const QString& plateName) {
@@ -28,6 +31,23 @@ bool PlateSession::Open(const QString& library, const QString& plateName) {
     });
     if (loaded) emit opened();
     return loaded;
+}
+
+bool PlateSession::ShowDefinition(const String& text) {
+    // Where a command has failed, the wells may not fit the plate any more.
+    Edit([this] { KeepWells(); });
+    const bool shown = Edit([&] {
+        Control().PlateClassText(text);
+        BringWellsBack();
+    });
+    TakeLayout();
+    return shown;
+}
+
+void PlateSession::TakeLayout() {
+    names_ = WellNames(Control());
+    emit opened();
+    emit changed();
 }
 
 std::optional<Integer> PlateSession::CurrentWell() const {

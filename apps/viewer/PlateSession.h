@@ -33,6 +33,10 @@ class PlateSession final : public QObject {
     /// Shows a plate with its first well as the current one. When it cannot, the control has said
     /// why, and the plate before it stays.
     bool Open(const QString& library, const QString& plateName);
+    /// Shows another definition of the plate, whose wells keep their data where there are as many.
+    bool ShowDefinition(const String& text);
+    /// The plate has been laid out anew: the panels are to show it as it is now.
+    void TakeLayout();
     /// True when a plate with wells is shown.
     bool HasWells() const { return Control().TotalWells() > 0; }
     /// The current well, or none when it is no well of the plate.
@@ -68,6 +72,8 @@ class PlateSession final : public QObject {
     void changed();
     /// Something asked for was not done.
     void failed(const QString& reason);
+    /// The control could not do what the operator asked of it; failed() comes too.
+    void refused(int number, const QString& description);
     /// The plate is being given input by the operator; comes before the plate has taken it.
     void inputSeen();
 

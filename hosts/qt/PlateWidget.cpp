@@ -58,7 +58,10 @@ PlateWidget::PlateWidget(QWidget* parent)
     panel_ = std::make_unique<PanelMirror>(
         *this, *plate_, [this](const std::function<void()>& action) { Try(action); });
     dataButton_.raise(); // the panel leaves room for it
-    site_.onPanelChange = [this] { panel_->Sync(); };
+    site_.onPanelChange = [this] {
+        panel_->Sync();
+        emit panelChanged();
+    };
     site_.menuPlace = [this] { return panel_->MenuPlace(); };
 
     setMouseTracking(true);
@@ -165,12 +168,23 @@ void PlateWidget::Relayout() {
     Try([this] { plate_->DrawingScale(plate_->DrawingScale()); });
 }
 
-// A layout fits the scale after it has sized the plate area, so the second one makes both agree.
+// A layout fits the scale after it has sized the plate area, so the second one makes both agree. It
+// also closes the details panel, with what has been typed there.
 void PlateWidget::Refit() {
     if (!refitOnResize_ || !plate_->FixedSize || refitting_) return;
+    const PanelElements& panel = plate_->Elements().panel;
+    const bool open = plate_->DataVisible();
+    const Integer page = panel.comboSelect.position;
+    if (open && panel.cmdApply.enabled) return;
     refitting_ = true;
     Relayout();
     Relayout();
+    if (open) {
+        Try([&] {
+            plate_->DataVisible(true);
+            plate_->PageChosen(page);
+        });
+    }
     refitting_ = false;
 }
 

@@ -96,7 +96,8 @@ class PlateWidget : public QWidget {
     void setVerticalCentred(bool on);
 
     /// Whether a plate of fixed size is fitted anew whenever the widget is resized. Off at first:
-    /// the control takes a new size into account at its next layout only.
+    /// the control takes a new size into account at its next layout only. Waits while edits in the
+    /// details panel are not applied, because a layout drops them.
     bool refitOnResize() const { return refitOnResize_; }
     void setRefitOnResize(bool on);
 
@@ -154,6 +155,8 @@ class PlateWidget : public QWidget {
     void mouseReleased(int button, int shift, float x, float y);
     void dragMoved(int button, int shift, int columns, int rows);
     void changesApplied();
+    /// Something in the details panel has changed; comes in the middle of what changes it.
+    void panelChanged();
 
     /// An aid has changed which wells are selected.
     void selectionAided();

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "apps/library/DiskFiles.h"
+#include "apps/viewer/EditQuestions.h"
+#include "apps/viewer/logic/DefinitionEditor.h"
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <utility>
+
+namespace zorvane {
+
+class DifferencePanel;
+class Plate;
+class PlateSession;
+
+/// Editing the type of the plate that is shown: follows what the operator does in the plate's
+/// details panel, and undoes, compares and saves it.
+class EditMode final : public QObject {
+    Q_OBJECT
+
+  public:
+    EditMode(PlateSession& session, DifferencePanel& panel, EditQuestions questions,
+             QObject* parent);
+
+    bool IsOn() const { return editor_.IsOpen(); }
+    bool CanUndo() const { return IsOn() && editor_.CanUndo(); }
+    bool CanRedo() const { return IsOn() && editor_.CanRedo(); }
+    bool HasUnsaved() const;
+    void Ask(EditQuestions questions) { questions_ = std::move(questions); }
+
+    /// Begins to edit the plate that is shown; emits failed() when it cannot be edited.
+    bool Start(const QString& library, const QString& plate);
+    /// Asks what is to become of unsaved edits. False when they are to stay.
+    bool MayLeave();
+    /// Ends the editing. The control keeps the present definition until a plate is opened.
+    void Stop();
+
+    void Undo();
+    void Redo();
+    bool Save();
+    bool SaveAs();
+
+  signals:
+    /// What can be undone, redone or saved may have changed.
+    void changed();
+    /// The library holds something else now; the edited plate has this name.
+    void libraryChanged(const QString& plate);
+    void failed(const QString& reason);
+
+  private:
+    Plate& Control() const;
+    void Follow();
+    void Apply();
+    void ShowPresent();
+    void OpenPanel();
+    void Report(const RuntimeError& error);
+    bool Saving(const std::function<void()>& save);
+    bool Resolve(const RuntimeError& error);
+    bool Reload();
+
+    PlateSession& session_;
+    DifferencePanel& panel_;
+    EditQuestions questions_;
+    DiskFiles files_;
+    DefinitionEditor editor_{files_};
+};
+
+} // namespace zorvane

@@ -1,0 +1,99 @@
+#include "apps/viewer/logic/DefinitionEditor.h"
+
+#include "platetext/EveryValue.h"
+#include "runtime/RuntimeError.h"
+#include "support/TStringPair.h"
+
+#include <utility>
+
+namespace zorvane {
+
+namespace {
+
+/// The control stops reading a text where a library goes on: at a keyword that it does not know.
+void CheckNothingLost(const cmPlate& plate, const cmPlate& shown) {
+    for (const auto& pair : plate.Properties) {
+        const TStringPair* const same = shown.Properties.Find(pair->Name());
+        if (same && same->Value() == pair->Value()) continue;
+        throw RuntimeError(static_cast<Long>(ErrorNumber::InvalidProcedureCall), "Zorvane",
+                           "\"" + plate.PlateName() +
+                               "\" cannot be edited here: the control would lose the line \"" +
+                               pair->Name() + " " + pair->Value() +
+                               "\", at or behind a keyword that it does not know.");
+    }
+}
+
+/// The text of a plate as a control gives it that has been given the plate.
+String EditedText(const LibraryText& library, const String& name) {
+    cmPlate plate = library.PlateOf(library.Get(name));
+    RecordEveryValue(plate);
+    cmPlate shown;
+    shown.SetFromText(WithoutEchoes(plate.Text()));
+    CheckNothingLost(plate, shown);
+    return shown.Text();
+}
+
+} // namespace
+
+void DefinitionEditor::Begin(const String& library, const String& plate) {
+    LibraryDocument document(files_, library);
+    const String text = EditedText(document.Text(), plate);
+    document_.emplace(std::move(document));
+    plate_ = NameIn(text);
+    history_.Begin(text);
+}
+
+String DefinitionEditor::Text() const { return WithoutEchoes(history_.Present()); }
+
+std::vector<ChangedLine> DefinitionEditor::Difference() const {
+    const auto block = Library().Find(plate_);
+    if (!block) return DefinitionDifference({}, Text());
+    return DefinitionDifference(Library().Of(*block), WithoutCommentsBehind(Text(), *block));
+}
+
+void DefinitionEditor::Save() {
+    document_->Save(Library().WithReplaced(history_.Present()));
+    history_.SetSaved();
+}
+
+void DefinitionEditor::SaveAs(const String& name) {
+    String definition = Renamed(history_.Present(), name);
+    // The comments behind the old plate stay where they are.
+    if (const auto old = Library().Find(plate_))
+        definition = WithoutCommentsBehind(definition, *old);
+    document_->Save(Library().WithAppended(definition));
+    plate_ = name;
+    history_.Begin(definition);
+}
+
+void DefinitionEditor::Reload() {
+    document_->Reload();
+    history_.ForgetSaved();
+    const auto block = Library().Find(plate_);
+    if (block && EditedText(Library(), plate_) == history_.Present()) history_.SetSaved();
+}
+
+String CommandFailure(Long number, const String& description) {
+    const char* reason = nullptr;
+    switch (static_cast<ErrorNumber>(number)) {
+    case ErrorNumber::InvalidProcedureCall:
+    case ErrorNumber::SubscriptOutOfRange:
+        reason = "the plate has no such sub-well";
+        break;
+    case ErrorNumber::ObjectNotSet:
+        reason = "the sub-well has no lines of its own in the definition";
+        break;
+    case ErrorNumber::DuplicateKey:
+        reason = "the plate has a sub-well of that name already";
+        break;
+    case ErrorNumber::Overflow:
+        reason = "a value is too large";
+        break;
+    default:
+        break;
+    }
+    return "This could not be done: " + (reason ? String(reason) : description) +
+           ". Undo brings the plate back as it was.";
+}
+
+} // namespace zorvane
