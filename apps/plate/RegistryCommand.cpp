@@ -7,6 +7,7 @@
 #include "runtime/Text.h"
 
 #include <cstdint>
+#include <filesystem>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -23,18 +24,30 @@ struct Options {
     TableForm form = TableForm::Aligned;
 };
 
+/// Where a root's keys are kept, for the user to look at.
+String PlacesText(const SqliteRegistry& registry, Long root) {
+    String text;
+    for (const std::filesystem::path& file : registry.Files(root))
+        text += (text.empty() ? " (" : ", ") + file.string();
+    return text.empty() ? " (no HOME or ZORVANE_REGISTRY says where its file is)" : text + ")";
+}
+
 /// Fails with what a result means, naming what was asked for.
-void Check(Long result, const String& what) {
-    if (result != kRegistrySuccess) Fail(what + ": " + RegistryResultText(result));
+void Check(Long result, const SqliteRegistry& registry, const RegistryPath& path,
+           const String& name = {}) {
+    if (result == kRegistrySuccess) return;
+    const String what = RegistryPathText(path) + (name.empty() ? "" : ", " + name);
+    Fail(what + ": " + RegistryResultText(result) +
+         (result == kRegistryNotFound ? "" : PlacesText(registry, path.root)));
 }
 
 /// A key that is closed when it goes.
 class OpenKey {
   public:
-    OpenKey(Registry& registry, const RegistryPath& path, bool make) : registry_(registry) {
+    OpenKey(SqliteRegistry& registry, const RegistryPath& path, bool make) : registry_(registry) {
         const Long result = make ? registry.CreateKey(path.root, path.key, kAllAccess, handle_)
                                  : registry.OpenKey(path.root, path.key, kReadAccess, handle_);
-        Check(result, RegistryPathText(path));
+        Check(result, registry, path);
     }
     ~OpenKey() { registry_.CloseKey(handle_); }
     OpenKey(const OpenKey&) = delete;
@@ -50,14 +63,15 @@ class OpenKey {
 std::vector<StoredValue> ValuesOf(SqliteRegistry& registry, const RegistryPath& path) {
     const OpenKey key(registry, path, false);
     std::vector<StoredValue> values;
-    Check(registry.Values(path.root, path.key, values), RegistryPathText(path));
+    Check(registry.Values(path.root, path.key, values), registry, path);
     return values;
 }
 
 std::vector<RegistryPath> AllKeys(const SqliteRegistry& registry) {
     std::vector<StoredKey> keys;
-    Check(registry.Keys(keys), "registry");
+    Check(registry.Keys(keys), registry, {kLocalMachine, {}});
     std::vector<RegistryPath> paths;
+    paths.reserve(keys.size());
     for (const StoredKey& key : keys)
         paths.push_back({key.root, key.path});
     return paths;
@@ -70,7 +84,7 @@ ExitCode Get(const Options& options) {
     StoredValue value{.name = options.name, .type = 0, .data = {}};
     Check(registry.QueryValue(key.Handle(), options.name, std::numeric_limits<Long>::max(),
                               value.type, value.data),
-          RegistryPathText(path) + ", " + options.name);
+          registry, path, options.name);
     WriteAll({}, DataText(value) + "\n");
     return kDone;
 }
@@ -83,15 +97,13 @@ String NumberBytes(std::uint32_t number) {
 }
 
 ExitCode Set(const Options& options) {
-    if (options.text.has_value() == options.number.has_value())
-        Fail("give either a VALUE or --dword N");
     SqliteRegistry registry;
     const RegistryPath path = ParseRegistryPath(options.key);
     const OpenKey key(registry, path, true);
     const Long type = options.number ? kRegistryNumber : kRegistryString;
     Check(registry.SetValue(key.Handle(), options.name, type,
                             options.number ? NumberBytes(*options.number) : *options.text),
-          RegistryPathText(path) + ", " + options.name);
+          registry, path, options.name);
     return kDone;
 }
 
@@ -119,15 +131,15 @@ bool LiesIn(const RegistryPath& path, const RegistryPath& parent) {
 
 ExitCode Export(const Options& options) {
     SqliteRegistry registry;
-    const std::vector<RegistryPath> all = AllKeys(registry);
+    std::optional<RegistryPath> start;
+    if (!options.key.empty()) start = ParseRegistryPath(options.key);
     String text;
-    for (const RegistryPath& path : all) {
-        if (!options.key.empty() && !LiesIn(path, ParseRegistryPath(options.key))) continue;
+    for (const RegistryPath& path : AllKeys(registry)) {
+        if (start && !LiesIn(path, *start)) continue;
         text += (text.empty() ? "" : "\n") +
                 ExportText(RegistryPathText(path), ValuesOf(registry, path));
     }
-    if (text.empty() && !options.key.empty())
-        Check(kRegistryNotFound, RegistryPathText(ParseRegistryPath(options.key)));
+    if (text.empty() && start) Check(kRegistryNotFound, registry, *start);
     WriteAll({}, text);
     return kDone;
 }
@@ -153,8 +165,12 @@ Command MakeRegistryCommand(CLI::App& app) {
     auto* const set = add("set", "Write a value");
     takeKey(*set, "ROOT\\KEY")->required();
     set->add_option("name", options->name, "Name of the value")->required();
-    set->add_option("value", options->text, "Text to write");
-    set->add_option("--dword", options->number, "A number of 32 bits to write instead");
+    auto* const text = set->add_option("value", options->text, "Text to write");
+    set->add_option("--dword", options->number, "Number of 32 bits to write instead")
+        ->excludes(text);
+    set->callback([options] {
+        if (!options->text && !options->number) throw CLI::RequiredError("value or --dword");
+    });
 
     auto* const list = add("list", "List the values of a key, or all keys");
     takeKey(*list, "ROOT\\KEY; all keys are listed without it");

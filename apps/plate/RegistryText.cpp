@@ -37,8 +37,20 @@ std::uint32_t Number(const StoredValue& value) {
     return number;
 }
 
-/// Whether a text can stand on a line as it is.
-bool IsPlain(std::string_view text) { return PrintableUtf8(text) == text; }
+String HexNumber(std::uint32_t number) {
+    String digits;
+    for (int shift = 28; shift >= 0; shift -= 4)
+        digits += "0123456789abcdef"[number >> shift & 0xF];
+    return digits;
+}
+
+/// The text as it can stand on a line.
+String OnALine(std::string_view text) {
+    String line = PrintableUtf8(text);
+    for (std::size_t at = 0; (at = line.find_first_of("\r\n", at)) != line.npos;)
+        line.replace(at, 1, "\uFFFD");
+    return line;
+}
 
 String Quoted(std::string_view text) {
     String quoted = "\"";
@@ -50,8 +62,9 @@ String Quoted(std::string_view text) {
 }
 
 String ExportedData(const StoredValue& value) {
-    if (value.type == kRegistryString && IsPlain(value.data)) return Quoted(value.data);
-    if (IsNumber(value)) return "dword:" + std::to_string(Number(value));
+    if (value.type == kRegistryString && OnALine(value.data) == value.data)
+        return Quoted(value.data);
+    if (IsNumber(value)) return "dword:" + HexNumber(Number(value));
     const bool binary = value.type == kRegistryBinary;
     return (binary ? "hex:" : "hex(" + std::to_string(value.type) + "):") + HexBytes(value.data);
 }
@@ -63,7 +76,7 @@ String RegistryResultText(Long result) {
     case kRegistryNotFound:
         return "there is no such key or value";
     case kRegistryAccessDenied:
-        return "neither the machine's registry nor your own can be written";
+        return "access is denied";
     case kRegistryDiskFull:
         return "the disk is full";
     case kRegistryBusy:
@@ -96,9 +109,11 @@ String DataText(const StoredValue& value) {
 }
 
 String ExportText(const String& key, const std::vector<StoredValue>& values) {
-    String text = "[" + PrintableUtf8(key) + "]\n";
-    for (const StoredValue& value : values)
-        text += Quoted(PrintableUtf8(value.name)) + "=" + ExportedData(value) + "\n";
+    String text = "[" + OnALine(key) + "]\n";
+    for (const StoredValue& value : values) {
+        const String name = value.name.empty() ? "@" : Quoted(OnALine(value.name));
+        text += name + "=" + ExportedData(value) + "\n";
+    }
     return text;
 }
 

@@ -17,7 +17,8 @@ String TypeText(Long type);
 String DataText(const StoredValue& value);
 
 /// A key and its values for people to read and compare: the key in brackets, then a line for each
-/// value. Text that does not fit a line is written as its bytes.
+/// value, whose data are a quoted text, the hexadecimal digits of a number or bytes. A text that
+/// does not fit a line is written as its bytes; the value without a name is "@".
 String ExportText(const String& key, const std::vector<StoredValue>& values);
 
 } // namespace zorvane

@@ -111,6 +111,13 @@ Long SqliteRegistry::CloseKey(Handle key) {
     return handles_.erase(key) != 0 ? kRegistrySuccess : kRegistryInvalidHandle;
 }
 
+std::vector<std::filesystem::path> SqliteRegistry::Files(Long root) const {
+    std::vector<std::filesystem::path> paths;
+    for (const RegistryFile* file : FilesOf(root))
+        paths.push_back(file->Path());
+    return paths;
+}
+
 /// Asks every file for keys of a root. One that may not be read hides nothing of the other.
 template <class Reading>
 Long SqliteRegistry::FromEach(Long root, Reading reading) const {

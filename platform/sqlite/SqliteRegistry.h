@@ -36,6 +36,9 @@ class SqliteRegistry final : public Registry {
     /// The values of a key with their types, as they are enumerated.
     Long Values(Long root, const String& key, std::vector<StoredValue>& values) const;
 
+    /// The files that a root's keys are read from, the one that counts first.
+    std::vector<std::filesystem::path> Files(Long root) const;
+
   private:
     struct OpenedKey {
         Long root;

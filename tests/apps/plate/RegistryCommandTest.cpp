@@ -25,15 +25,19 @@ TEST(PlateRegistry, SetsGetsListsAndExports) {
          "plate: HKEY_LOCAL_MACHINE\\K, W: there is no such key or value\n"},
         {R"(list 'HKLM\K' --csv)", 0, "name,type,data\nn,number,4294967295\n", ""},
         {"list --csv", 0, "key\nHKEY_LOCAL_MACHINE\\K\nHKEY_LOCAL_MACHINE\\K\\Sub\n", ""},
+        {"set 'HKLM\\K' '' '[HKLM]\n[x]'", 0, "", ""},
+        {"set 'HKLM\\K' '\n' -- -5", 0, "", ""},
         {"export", 0,
-         "[HKEY_LOCAL_MACHINE\\K]\n\"n\"=dword:4294967295\n\n[HKEY_LOCAL_MACHINE\\K\\Sub]\n"
+         "[HKEY_LOCAL_MACHINE\\K]\n\"n\"=dword:ffffffff\n@=hex(1):5b,48,4b,4c,4d,5d,0a,5b,78,5d\n"
+         "\"\uFFFD\"=\"-5\"\n\n[HKEY_LOCAL_MACHINE\\K\\Sub]\n"
          "\"V\"=\"a \\\"text\\\" \\\\\"\n",
          ""},
         {R"(export 'HKLM\K\Sub')", 0,
          "[HKEY_LOCAL_MACHINE\\K\\Sub]\n\"V\"=\"a \\\"text\\\" \\\\\"\n", ""},
         {R"(export 'HKCU\K')", 1, "", nullptr},
-        {R"(set 'HKLM\K' V)", 1, "", "plate: give either a VALUE or --dword N\n"},
-        {R"(set 'HKLM\K' V x --dword 1)", 1, "", nullptr},
+        {R"(set 'HKLM\K' V)", 2, "",
+         "value or --dword is required\nRun with --help for more information.\n"},
+        {R"(set 'HKLM\K' V x --dword 1)", 2, "", nullptr},
         {R"(set 'HKLM\K' V --dword -1)", 2, "", nullptr},
         {"set HKLMK V x", 1, "", nullptr},
         {"", 2, "", nullptr},
@@ -55,7 +59,8 @@ TEST(PlateRegistry, AFileThatIsNoRegistryIsLeftAsItIs) {
     const ToolRun run(R"(set 'HKLM\K' V x)",
                       "ZORVANE_REGISTRY=" + Quoted(path) + " " + Quoted(PLATE_TOOL) + " registry");
     EXPECT_EQ(run.err, "plate: HKEY_LOCAL_MACHINE\\K: the registry's file is damaged or holds "
-                       "something else\n");
+                       "something else (" +
+                           path + ")\n");
     EXPECT_EQ(BytesOf(path), "Dear operator, this is no registry.");
 }
 
