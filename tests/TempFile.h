@@ -7,12 +7,14 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <string>
 #include <string_view>
+#include <unistd.h>
 
 namespace zorvane {
 
-/// A file with given bytes, named after the running test, that goes away with this object. One at
-/// a time in each test.
+/// A file with given bytes, named after the running test and its process, that goes away with this
+/// object. One at a time in each test.
 class TempFile {
   public:
     explicit TempFile(std::string_view bytes = {}) : path_(NameOfRunningTest()) {
@@ -35,7 +37,8 @@ class TempFile {
   private:
     static String NameOfRunningTest() {
         const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-        return testing::TempDir() + test->test_suite_name() + "." + test->name() + ".tmp";
+        return testing::TempDir() + test->test_suite_name() + "." + test->name() + "." +
+               std::to_string(getpid()) + ".tmp";
     }
 
     String path_;

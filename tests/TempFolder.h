@@ -4,15 +4,17 @@
 
 #include <filesystem>
 #include <string>
+#include <unistd.h>
 
 namespace zorvane {
 
-/// An empty folder named after the running test, that goes away with this object.
+/// An empty folder named after the running test and its process, that goes away with this object.
 class TempFolder {
   public:
     TempFolder() {
         const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-        std::string name = std::string(test->test_suite_name()) + "." + test->name() + ".folder";
+        std::string name = std::string(test->test_suite_name()) + "." + test->name() + "." +
+                           std::to_string(getpid()) + ".folder";
         for (char& c : name)
             if (c == '/') c = '_';
         path_ = testing::TempDir() + name;
