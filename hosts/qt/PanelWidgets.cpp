@@ -6,6 +6,8 @@
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOptionGroupBox>
 
 #include <algorithm>
 
@@ -25,6 +27,18 @@ void PaintFrame(QWidget& widget, QPainter& painter) {
 }
 
 } // namespace
+
+// Some styles draw a frame that is hardly seen, and this one lies over wells.
+void PanelBox::paintEvent(QPaintEvent* event) {
+    QGroupBox::paintEvent(event);
+    QStyleOptionGroupBox option;
+    initStyleOption(&option);
+    const QRect frame =
+        style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxFrame, this);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(frame.adjusted(0, 0, -1, -1));
+}
 
 void PanelBox::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {

@@ -22,6 +22,7 @@ class PanelBox final : public QGroupBox {
     std::function<void()> onEscape;
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
 };
