@@ -42,6 +42,10 @@ QString SignOf(LineChange change) {
     }
 }
 
+QString LineCount(std::ptrdiff_t count) {
+    return count == 1 ? QObject::tr("1 line") : QObject::tr("%1 lines").arg(count);
+}
+
 QString Summary(const std::vector<ChangedLine>& lines, bool edited) {
     const auto count = [&](LineChange change) {
         return std::count_if(lines.begin(), lines.end(),
@@ -50,7 +54,9 @@ QString Summary(const std::vector<ChangedLine>& lines, bool edited) {
     const auto removed = count(LineChange::Removed);
     const auto added = count(LineChange::Added);
     if (removed + added == 0) return QObject::tr("This is what the library holds.");
-    if (edited) return QObject::tr("Saving removes %1 lines and adds %2.").arg(removed).arg(added);
+    if (edited)
+        return QObject::tr("Saving takes out %1 and puts in %2.")
+            .arg(LineCount(removed), LineCount(added));
     return QObject::tr("Nothing was edited. Saving an edit also rewrites the coloured lines.");
 }
 

@@ -110,11 +110,11 @@ void MainWindow::MakePanels() {
     QDockWidget* options =
         MakeDock(*this, tr("Settings"), Scrolled(settings), Qt::RightDockWidgetArea);
     tabifyDockWidget(well, options);
-    well->raise();
     auto* difference = new DifferencePanel;
     difference_ = MakeDock(*this, tr("Difference"), difference, Qt::RightDockWidgetArea);
     tabifyDockWidget(options, difference_);
     difference_->hide();
+    well->raise();
     editing_ = new EditMode(*session_, *difference, EditQuestions::Over(*this), this);
     QDockWidget* events = MakeDock(*this, tr("Events"), log_, Qt::BottomDockWidgetArea);
     setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
