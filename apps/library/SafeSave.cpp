@@ -68,9 +68,11 @@ class Save {
 
     [[noreturn]] void Fail(const RuntimeError& error) const {
         const bool changed = error.Number() == kChangedOnDisk;
+        const String said = error.Description() + ".";
         throw RuntimeError(error.Number(), "Zorvane",
-                           path_ + " was not saved: " + (changed ? "" : step_ + " failed: ") +
-                               error.Description() + "." + outcome_);
+                           path_ + " was not saved: " +
+                               (changed ? said + " Nothing was overwritten."
+                                        : step_ + " failed: " + said + outcome_));
     }
 
   private:

@@ -91,7 +91,7 @@ TEST(SafeSave, SaysWhatIsWrongWithTheFile) {
               " was not saved: writing to it failed: it is read-only. The file is as it was.");
     folder.Put("other.dat", "older");
     EXPECT_EQ(save("other.dat"), " was not saved: another program has changed it since it was "
-                                 "read. The file is as it was.");
+                                 "read. Nothing was overwritten.");
     EXPECT_EQ(folder.Names(), (Names{"fixed.dat", "other.dat"}));
     EXPECT_EQ(Failure([&] { LibraryDocument(files, folder.File("gone.dat")); }),
               folder.File("gone.dat") + " cannot be read: it is not there");
