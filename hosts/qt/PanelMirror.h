@@ -26,7 +26,7 @@ class PanelMirror final {
     PanelMirror& operator=(const PanelMirror&) = delete;
 
     /// Takes over what has changed, and only that: a text box keeps its cursor, its selection and
-    /// what it can undo while its text is the same.
+    /// what it can undo while it stays in sight for the same property with the same text.
     void Sync();
 
     /// Where the menu opens: at the pointer or, when it was asked for with a key, at its button.
@@ -36,6 +36,7 @@ class PanelMirror final {
     struct Row {
         QLabel* caption;
         RowEdit* text;
+        String property = {}; ///< that it stands for
     };
 
     const PanelElements& Elements() const { return plate_.Elements().panel; }
@@ -50,6 +51,7 @@ class PanelMirror final {
     void ShowPages();
     void ShowComment(const SystemPalette& colors);
     void ShowRows(const SystemPalette& colors);
+    void ShowText(Row& row, const RowCaption& caption, const TextBox& box);
     void ShowStyle(const SystemPalette& colors);
     void ShowButtons();
     void AddRow();
@@ -66,7 +68,7 @@ class PanelMirror final {
     PanelBox frame_;
     QScrollArea view_; ///< stands for ControlPic
     QWidget contents_;
-    QComboBox pages_;
+    CalmList pages_;
     QPushButton menu_;
     QPlainTextEdit comment_;
     StylePreview preview_;

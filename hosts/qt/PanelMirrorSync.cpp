@@ -111,7 +111,7 @@ void PanelMirror::ShowComment(const SystemPalette& colors) {
     Paint(comment_, QPalette::Base, ToColor(Resolve(box.back, colors)));
     // Not disabled: a comment that can't be edited can still be scrolled and copied.
     comment_.setReadOnly(!box.enabled);
-    if (comment_.toPlainText() != ShownComment(box.text))
+    if (!comment_.isVisibleTo(&parent_) || comment_.toPlainText() != ShownComment(box.text))
         comment_.setPlainText(ShownComment(box.text));
     comment_.setVisible(box.visible);
 }
@@ -136,15 +136,24 @@ void PanelMirror::ShowRows(const SystemPalette& colors) {
         // The frame lies around the box, which has no room for one.
         text.setGeometry(InView(box.box).adjusted(0, -1, 0, 1));
         text.setAlignment((box.rightAligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-        text.setAccessibleName(ShownText(caption.caption));
         Paint(text, QPalette::Base, ToColor(Resolve(box.back, colors)));
-        if (text.text() != ShownText(box.text)) text.setText(ShownText(box.text));
+        ShowText(rows_[i], caption, box);
         text.setVisible(box.visible && !covered);
     }
     if (grows) {
         OrderTabs();
         Stack();
     }
+}
+
+// A text that is set anew can't be undone: what was typed for one property is none of another's.
+void PanelMirror::ShowText(Row& row, const RowCaption& caption, const TextBox& box) {
+    const QString name = ShownText(caption.caption);
+    const bool same = row.text->isVisibleTo(&parent_) && row.property == caption.Tag &&
+                      row.text->accessibleName() == name;
+    row.property = caption.Tag;
+    if (row.text->accessibleName() != name) row.text->setAccessibleName(name);
+    if (!same || row.text->text() != ShownText(box.text)) row.text->setText(ShownText(box.text));
 }
 
 void PanelMirror::ShowStyle(const SystemPalette& colors) {

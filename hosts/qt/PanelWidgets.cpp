@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionGroupBox>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -74,7 +75,11 @@ void RowEdit::focusOutEvent(QFocusEvent* event) {
     update();
 }
 
-SlimList::SlimList(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
+CalmList::CalmList(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
+
+void CalmList::wheelEvent(QWheelEvent* event) {
+    hasFocus() ? QComboBox::wheelEvent(event) : event->ignore();
+}
 
 void SlimList::showPopup() {
     view()->setMinimumWidth(std::max(view()->sizeHintForColumn(0) + 2 * kArrowRoom, width()));

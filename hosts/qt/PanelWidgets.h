@@ -40,10 +40,20 @@ class RowEdit final : public QLineEdit {
     void focusOutEvent(QFocusEvent* event) override;
 };
 
-/// A drop-down list no wider than its text and a small arrow.
-class SlimList final : public QComboBox {
+/// A drop-down list that the wheel turns only while it has the focus: a turn that was meant to
+/// scroll the panel would change a value, or drop what has been typed on the page.
+class CalmList : public QComboBox {
   public:
-    explicit SlimList(QWidget* parent);
+    explicit CalmList(QWidget* parent);
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+/// A drop-down list no wider than its text and a small arrow.
+class SlimList final : public CalmList {
+  public:
+    using CalmList::CalmList;
     void showPopup() override;
 
   protected:

@@ -161,6 +161,40 @@ TEST(PanelMirror, BytesThatAreNoUtf8SurviveAnEdit) {
                                             "b");
 }
 
+TEST(PanelMirror, UndoingBringsBackNothingThatWasTypedElsewhere) {
+    PanelForm form;
+    form.Turn("General Properties");
+    QLineEdit& box = *form.Row("Columns"); // "X offset" of the next page, which is 14
+    box.selectAll();
+    QTest::keyClicks(&box, "14");
+    form.Turn("Drop Well");
+    ASSERT_EQ(form.Row("X offset"), &box);
+    box.undo();
+    EXPECT_EQ(form.Panel().txtData[1].text, "14");
+
+    form.Turn("Comments");
+    form.Comment().selectAll();
+    QTest::keyClick(&form.Comment(), Qt::Key_Delete);
+    form.widget.plate().PlateClassText(kPlateText); // has no comment
+    form.widget.plate().DataVisible(true);
+    EXPECT_FALSE(form.Comment().document()->isUndoAvailable());
+}
+
+TEST(PanelMirror, TheWheelTurnsNoListThatIsNotWorkedOn) {
+    PanelForm form;
+    form.Turn("Drop Well");
+    form.Row("X offset")->setFocus();
+    for (QComboBox* const list : {&form.Style(), &form.Pages()}) {
+        const QPoint middle = list->rect().center();
+        QWheelEvent turn(middle, list->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, {},
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(list, &turn);
+    }
+    EXPECT_EQ(form.Panel().comboSelect.position, 3);
+    EXPECT_EQ(form.Panel().cmbStyle.position, 0);
+    EXPECT_FALSE(form.Apply().isEnabled());
+}
+
 TEST(PanelMirror, TabReachesEveryRowAndUncoversIt) {
     PanelForm form;
     form.Turn("Reservoir Well");
