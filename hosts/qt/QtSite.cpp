@@ -1,5 +1,6 @@
 #include "hosts/qt/QtSite.h"
 
+#include "hosts/qt/PanelText.h"
 #include "hosts/qt/Units.h"
 
 #include <QCursor>
@@ -38,9 +39,10 @@ void QtSite::PanelChanged() {
 String QtSite::Ask(const Question& question) {
     QString prompt = QString::fromStdString(question.prompt);
     prompt.remove(QLatin1Char('\r'));
-    return QInputDialog::getText(&widget_, QString::fromStdString(question.title), prompt,
-                                 QLineEdit::Normal, QString::fromStdString(question.preset))
-        .toStdString();
+    const QString answer =
+        QInputDialog::getText(&widget_, QString::fromStdString(question.title), prompt,
+                              QLineEdit::Normal, ShownText(question.preset));
+    return TakenText(answer, question.preset);
 }
 
 Integer QtSite::Choose(const std::vector<MenuEntry>& entries) {

@@ -159,6 +159,15 @@ TEST(PanelMirror, BytesThatAreNoUtf8SurviveAnEdit) {
     QTest::keyClicks(&label, "b");
     EXPECT_EQ(form.Panel().txtData[2].text, "\xE4"
                                             "b");
+
+    String text = kPlateText;
+    text.replace(text.find("Drop"), 4, "Dr\xF6p");
+    form.widget.plate().PlateClassText(text);
+    form.widget.plate().PageChosen(kGeneralPage);
+    form.Answer<QInputDialog>([](QInputDialog& dialog) { dialog.accept(); });
+    form.widget.plate().MenuChosen(mnuRenameSubwell);
+    EXPECT_EQ(form.widget.plate().LoadedDefinition().CompoundWell()->Item(1)->WellName(),
+              "Dr\xF6p");
 }
 
 TEST(PanelMirror, UndoingBringsBackNothingThatWasTypedElsewhere) {
