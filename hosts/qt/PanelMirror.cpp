@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QPointer>
 #include <QScrollBar>
 
 namespace zorvane {
@@ -70,8 +71,10 @@ void PanelMirror::Connect() {
 // Within one step the panel may close and open again. Only what it comes to is shown, so that the
 // focus stays in it.
 void PanelMirror::Run(const std::function<void()>& action) {
+    const QPointer<QWidget> shown(&frame_);
     ++running_;
     run_(action);
+    if (!shown) return; // the host has destroyed the widget meanwhile
     --running_;
     Sync();
 }

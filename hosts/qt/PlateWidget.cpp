@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QLayout>
 #include <QMetaMethod>
+#include <QPointer>
 
 namespace zorvane {
 
@@ -38,16 +39,16 @@ bool IsLaidOut(const QWidget& widget) {
 } // namespace
 
 PlateWidget::PlateWidget(QWidget* parent)
-    : QWidget(parent), site_(*this, dataButton_), askedSize_(kNewSize) {
+    : QWidget(parent), site_(std::make_shared<QtSite>(*this, dataButton_)), askedSize_(kNewSize) {
     QtProcess::UseByDefault();
     PlateAccessible::Install();
-    plate_ = std::make_unique<Plate>(site_);
+    plate_ = std::make_shared<Plate>(*site_);
     signals_ = std::make_unique<PlateSignals>(*this);
     plate_->AddObserver(*signals_);
     selection_ = std::make_unique<SelectionAids>(*plate_);
-    site_.onRepaint = [this](const Rect& area) { ContentChanged(area); };
-    site_.onResize = [this](QSize size) { TakeSize(size); };
-    site_.Overlay().Context().onChange = [this](const Rect& pixels) { OutlineChanged(pixels); };
+    site_->onRepaint = [this](const Rect& area) { ContentChanged(area); };
+    site_->onResize = [this](QSize size) { TakeSize(size); };
+    site_->Overlay().Context().onChange = [this](const Rect& pixels) { OutlineChanged(pixels); };
 
     dataButton_.setParent(this);
     dataButton_.setAccessibleName(tr("Details"));
@@ -58,11 +59,11 @@ PlateWidget::PlateWidget(QWidget* parent)
     panel_ = std::make_unique<PanelMirror>(
         *this, *plate_, [this](const std::function<void()>& action) { Try(action); });
     dataButton_.raise(); // the panel leaves room for it
-    site_.onPanelChange = [this] {
+    site_->onPanelChange = [this] {
         panel_->Sync();
         emit panelChanged();
     };
-    site_.menuPlace = [this] { return panel_->MenuPlace(); };
+    site_->menuPlace = [this] { return panel_->MenuPlace(); };
 
     setMouseTracking(true);
     // A press takes the focus where the control says so.
@@ -71,7 +72,10 @@ PlateWidget::PlateWidget(QWidget* parent)
     resize(kNewSize);
 }
 
-PlateWidget::~PlateWidget() = default;
+PlateWidget::~PlateWidget() {
+    plate_->RemoveObserver(*signals_);
+    site_->Leave();
+}
 
 QString PlateWidget::fileName() const { return QString::fromStdString(plate_->FileName); }
 
@@ -144,16 +148,21 @@ void PlateWidget::setDeselectedColor(const QColor& color) {
 }
 
 void PlateWidget::Try(const std::function<void()>& action) {
+    const auto site = site_;
+    const auto plate = plate_; // goes before its site
+    const QPointer<PlateWidget> shown(this);
     try {
         action();
     } catch (const RuntimeError& error) {
+        if (!shown) return;
         Report(error.Number(), QString::fromStdString(error.Source()),
                QString::fromStdString(error.Description()));
     } catch (const std::exception& error) {
         // Thrown by a slot of the host: an event loop can't hand it on either.
+        if (!shown) return;
         Report(0, QString(), QString::fromLocal8Bit(error.what()));
     }
-    AnnounceCurrentWell();
+    if (shown) AnnounceCurrentWell();
 }
 
 void PlateWidget::Report(int number, const QString& source, const QString& description) {

@@ -220,8 +220,10 @@ class PlateWidget : public QWidget {
     void ShowRing(bool on);
 
     QPushButton dataButton_;
-    QtSite site_;
-    std::unique_ptr<Plate> plate_;
+    // Shared with each step that is under way, which may outlive this widget: a host may destroy it
+    // while a menu or a question is open.
+    std::shared_ptr<QtSite> site_;
+    std::shared_ptr<Plate> plate_;
     std::unique_ptr<PlateSignals> signals_;
     std::unique_ptr<SelectionAids> selection_;
     std::unique_ptr<PanelMirror> panel_;

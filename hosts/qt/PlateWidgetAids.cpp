@@ -100,7 +100,7 @@ void PlateWidget::PaintHints(QtCanvas& canvas) {
 }
 
 QString PlateWidget::ToolTipText() const {
-    return aids_.testFlag(Aid::RichToolTips) ? DescriptionOf(*plate_, hovered_) : site_.ToolTip();
+    return aids_.testFlag(Aid::RichToolTips) ? DescriptionOf(*plate_, hovered_) : site_->ToolTip();
 }
 
 } // namespace zorvane

@@ -166,7 +166,7 @@ void PlateWidget::Release(Qt::MouseButton button, Qt::KeyboardModifiers modifier
     const Spot at = InPlate(position);
     Try([&] { plate_->ButtonUp(ButtonBit(button), ShiftBits(modifiers), at.x, at.y); });
     // Whatever went wrong on the way, no outline outlives its gesture.
-    if (site_.Overlay().Clear()) update();
+    if (site_->Overlay().Clear()) update();
 }
 
 void PlateWidget::leaveEvent(QEvent* event) {
@@ -176,7 +176,7 @@ void PlateWidget::leaveEvent(QEvent* event) {
 }
 
 void PlateWidget::ShowPointer(bool overPlate) {
-    const PointerShape shape = overPlate ? site_.Pointer() : PointerShape::Standard;
+    const PointerShape shape = overPlate ? site_->Pointer() : PointerShape::Standard;
     if (shape == PointerShape::Standard) {
         unsetCursor();
     } else {

@@ -14,7 +14,7 @@ namespace zorvane {
 // Between gestures a change of what is shown wipes stray outlines, as a window system would. During
 // one they stay: the control goes on to erase what it has drawn.
 void PlateWidget::ContentChanged(const Rect& area) {
-    if (pressed_ == Part::None && site_.Overlay().Clear()) {
+    if (pressed_ == Part::None && site_->Overlay().Clear()) {
         bandLost_ = true;
         update();
     }
@@ -24,14 +24,14 @@ void PlateWidget::ContentChanged(const Rect& area) {
 
 void PlateWidget::OutlineChanged(const Rect& pixels) {
     const QPointF origin = ToPixels(plate_->Elements().fraPlate.box).topLeft();
-    update(site_.Overlay().Shown(pixels).translated(origin).toAlignedRect());
+    update(site_->Overlay().Shown(pixels).translated(origin).toAlignedRect());
 }
 
 void PlateWidget::FitOverlay() {
     const qreal ratio =
         double{kUnitsPerPixel} / double{CurrentProcess().TheScreen().TwipsPerPixelX()};
     const QSizeF area = ToPixels(plate_->Elements().fraPlate.box).size();
-    if (site_.Overlay().Fit(area, ratio)) bandLost_ = true;
+    if (site_->Overlay().Fit(area, ratio)) bandLost_ = true;
 }
 
 void PlateWidget::MirrorDataButton() {
@@ -62,8 +62,8 @@ void PlateWidget::PaintPlate(QPainter& painter, const QRectF& clip) {
     PaintControl(surface, SystemColors(palette()), canvas);
     PaintHints(canvas);
     if (surface.fraPlate.visible) {
-        site_.Overlay().Paint(painter, canvas.DevicePixels(surface.fraPlate.box),
-                              canvas.DevicePixels(canvas.Clip()));
+        site_->Overlay().Paint(painter, canvas.DevicePixels(surface.fraPlate.box),
+                               canvas.DevicePixels(canvas.Clip()));
     }
 }
 

@@ -6,7 +6,6 @@
 #include <QCursor>
 #include <QInputDialog>
 #include <QMenu>
-#include <QWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -17,9 +16,19 @@ void QtSite::Repaint(const Rect& area) {
     if (onRepaint) onRepaint(area);
 }
 
-Single QtSite::Width() const { return ToUnits(widget_.width()); }
+void QtSite::Leave() {
+    widget_ = nullptr;
+    dataButton_ = nullptr;
+    onRepaint = {};
+    onResize = {};
+    onPanelChange = {};
+    menuPlace = {};
+    overlay_.Context().onChange = {};
+}
 
-Single QtSite::Height() const { return ToUnits(widget_.height()); }
+Single QtSite::Width() const { return widget_ ? ToUnits(widget_->width()) : 0; }
+
+Single QtSite::Height() const { return widget_ ? ToUnits(widget_->height()) : 0; }
 
 void QtSite::Resize(Single width, Single height) {
     const auto pixels = [](Single units) {
@@ -28,9 +37,13 @@ void QtSite::Resize(Single width, Single height) {
     if (onResize) onResize({pixels(width), pixels(height)});
 }
 
-void QtSite::TakeFocus() { widget_.setFocus(Qt::MouseFocusReason); }
+void QtSite::TakeFocus() {
+    if (widget_) widget_->setFocus(Qt::MouseFocusReason);
+}
 
-void QtSite::FocusDataButton() { dataButton_.setFocus(Qt::OtherFocusReason); }
+void QtSite::FocusDataButton() {
+    if (dataButton_) dataButton_->setFocus(Qt::OtherFocusReason);
+}
 
 void QtSite::PanelChanged() {
     if (onPanelChange) onPanelChange();
@@ -40,17 +53,20 @@ String QtSite::Ask(const Question& question) {
     QString prompt = QString::fromStdString(question.prompt);
     prompt.remove(QLatin1Char('\r'));
     const QString answer =
-        QInputDialog::getText(&widget_, QString::fromStdString(question.title), prompt,
+        QInputDialog::getText(widget_, QString::fromStdString(question.title), prompt,
                               QLineEdit::Normal, ShownText(question.preset));
     return TakenText(answer, question.preset);
 }
 
 Integer QtSite::Choose(const std::vector<MenuEntry>& entries) {
-    QMenu menu(&widget_);
+    const QPointer<QMenu> menu = new QMenu(widget_);
     for (const MenuEntry& entry : entries)
-        menu.addAction(QString::fromStdString(entry.caption))->setEnabled(entry.enabled);
-    QAction* chosen = menu.exec(menuPlace ? menuPlace() : QCursor::pos());
-    return static_cast<Integer>(menu.actions().indexOf(chosen));
+        menu->addAction(QString::fromStdString(entry.caption))->setEnabled(entry.enabled);
+    const QAction* const chosen = menu->exec(menuPlace ? menuPlace() : QCursor::pos());
+    if (!menu) return -1; // went with its widget
+    const auto position = static_cast<Integer>(menu->actions().indexOf(chosen));
+    delete menu;
+    return position;
 }
 
 } // namespace zorvane

@@ -3,12 +3,12 @@
 #include "hosts/qt/PlateOverlay.h"
 #include "platform/HostSite.h"
 
+#include <QPointer>
 #include <QSize>
 #include <QString>
+#include <QWidget>
 
 #include <functional>
-
-class QWidget;
 
 namespace zorvane {
 
@@ -17,7 +17,7 @@ namespace zorvane {
 class QtSite final : public HostSite {
   public:
     /// `dataButton` stands for the button that opens the details panel.
-    QtSite(QWidget& widget, QWidget& dataButton) : widget_(widget), dataButton_(dataButton) {}
+    QtSite(QWidget& widget, QWidget& dataButton) : widget_(&widget), dataButton_(&dataButton) {}
 
     /// Called when something that is shown has changed, with the area in drawing units.
     std::function<void(const Rect&)> onRepaint;
@@ -27,6 +27,10 @@ class QtSite final : public HostSite {
     std::function<void()> onPanelChange;
     /// Where a menu is to open, in global coordinates.
     std::function<QPoint()> menuPlace;
+
+    /// The widget is about to go. A control that is still in the middle of a step goes on without
+    /// it.
+    void Leave();
 
     PlateOverlay& Overlay() { return overlay_; }
     const QString& ToolTip() const { return toolTip_; }
@@ -47,8 +51,8 @@ class QtSite final : public HostSite {
     Integer Choose(const std::vector<MenuEntry>& entries) override;
 
   private:
-    QWidget& widget_;
-    QWidget& dataButton_;
+    QPointer<QWidget> widget_;
+    QPointer<QWidget> dataButton_;
     PlateOverlay overlay_;
     QString toolTip_;
     PointerShape pointer_ = PointerShape::Standard;

@@ -5,6 +5,7 @@
 #include <QInputDialog>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
@@ -268,6 +269,29 @@ TEST(PanelMirror, TheMenuAsksInADialogAndFailuresAreReported) {
     form.Turn("Comments");
     QTest::mouseClick(&form.Menu(), Qt::LeftButton);
     EXPECT_EQ(failures.join(" "), "9");
+}
+
+TEST(PanelMirror, AWidgetMayBeDestroyedWhileItsMenuOrItsQuestionIsOpen) {
+    for (const int entry : {-1, int{mnuAddNewSubWell}, int{mnuShiftHeight}}) {
+        PanelForm form; // answers for the widget that goes
+        const QPointer<PlateWidget> widget = new PlateWidget;
+        widget->plate().PlateClassText(kPlateText);
+        widget->plate().PageChosen(kGeneralPage);
+        widget->setEditEnable(true);
+        widget->setDataVisible(true);
+        widget->show();
+        form.Answer<QMenu>([&](QMenu& menu) {
+            if (entry < 0) return delete widget;
+            form.Answer<QInputDialog>([&](QInputDialog&) { delete widget; });
+            menu.setActiveAction(menu.actions()[entry]);
+            QTest::keyClick(&menu, Qt::Key_Return);
+        });
+        const auto buttons = widget->findChildren<QPushButton*>();
+        (*std::find_if(buttons.begin(), buttons.end(), [](const QPushButton* button) {
+            return button->text() == "....";
+        }))->click();
+        EXPECT_EQ(widget, nullptr) << entry;
+    }
 }
 
 TEST(PanelMirror, AClickOnItsBackgroundIsAClickOnTheControl) {
