@@ -13,12 +13,14 @@ namespace {
 
 bool IsComment(std::string_view line) { return TrimStart(line).substr(0, 1) == ";"; }
 
-/// Leaves out the last comment line with each of the texts.
+/// Leaves out the last comment line with each of the texts, in any letter case: a comment that the
+/// reader makes of a line begins with the keyword, which the writer spells in its own way.
 String WithoutComments(const String& definition, const std::vector<String>& comments) {
     std::vector<TextLine> lines = LinesOf(definition);
     for (const String& comment : comments) {
         const auto same = std::find_if(lines.rbegin(), lines.rend(), [&](const TextLine& line) {
-            return IsComment(line.text) && Trim(TrimStart(line.text).substr(1)) == comment;
+            return IsComment(line.text) &&
+                   EqualNoCase(Trim(TrimStart(line.text).substr(1)), comment);
         });
         if (same != lines.rend()) lines.erase(std::next(same).base());
     }
@@ -60,15 +62,18 @@ cmPlate PlateIn(const String& text) {
     return plate;
 }
 
+std::vector<String> CommentLines(std::string_view comment) {
+    std::vector<String> lines;
+    for (const TextLine& line : LinesOf(comment))
+        lines.emplace_back(Trim(line.text));
+    return lines;
+}
+
 String WithoutEchoes(const String& definition) {
     String others;
     for (const TextLine& line : LinesOf(definition))
         if (!IsComment(line.text)) others.append(line.text).append(line.end);
-    std::vector<String> echoes;
-    const cmPlate plate = PlateIn(others);
-    for (const TextLine& line : LinesOf(plate.Comment))
-        echoes.emplace_back(Trim(line.text));
-    return WithoutComments(definition, echoes);
+    return WithoutComments(definition, CommentLines(PlateIn(others).Comment));
 }
 
 String WithoutCommentsBehind(const String& definition, const PlateBlock& block) {

@@ -4,7 +4,6 @@
 #include "model/cmPlate.h"
 #include "platetext/LineCode.h"
 #include "platetext/LineParts.h"
-#include "platetext/PlateFunctions.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Text.h"
 
@@ -24,10 +23,6 @@ constexpr Integer kOtherPlate = 1;
 
 bool IsComment(std::string_view line) { return TrimStart(line).substr(0, 1) == ";"; }
 bool SaysNothing(std::string_view line) { return Trim(line).empty() || IsComment(line); }
-/// A comment as the reader keeps it.
-String CommentIn(std::string_view line) {
-    return BlankControlChars(String(Trim(TrimStart(line).substr(1))));
-}
 
 bool OpensPlate(std::string_view line) { return EqualNoCase(LineParts(line).keyword, "PLATE"); }
 
@@ -41,12 +36,7 @@ PlateBlock BlockIn(std::string_view read, std::size_t from) {
         if (!inPlate) block.begin = at;
         at += line.text.size() + line.end.size();
         inPlate = inPlate || OpensPlate(line.text);
-        if (!SaysNothing(line.text)) {
-            block.end = at;
-            block.commentsBehind.clear();
-        } else if (IsComment(line.text)) {
-            block.commentsBehind.push_back(CommentIn(line.text));
-        }
+        if (!SaysNothing(line.text)) block.end = at;
     }
     return block;
 }
@@ -81,6 +71,9 @@ std::optional<PlateBlock> LibraryText::Find(const String& name) const {
             PlateBlock block = BlockIn(std::string_view(bytes_).substr(from, to - from), from);
             block.name = plate.PlateName();
             block.definition = plate.Text();
+            // The reader gathers comments in their order, so those of the block come first.
+            const std::size_t own = PlateIn(String(Of(block))).Comment.size();
+            block.commentsBehind = CommentLines(std::string_view(plate.Comment).substr(own));
             return block;
         }
         if (result != kOtherPlate) return std::nullopt;
@@ -109,7 +102,7 @@ PlateBlock LibraryText::Get(const String& name) const {
 }
 
 cmPlate LibraryText::PlateOf(const PlateBlock& block) const {
-    return PlateIn(bytes_.substr(block.begin, block.readTo - block.begin));
+    return PlateIn(bytes_.substr(block.begin));
 }
 
 std::string_view LibraryText::Of(const PlateBlock& block) const {
@@ -144,8 +137,7 @@ LibraryText LibraryText::WithReplaced(const String& definition) const {
     const std::size_t oldSize = old.end - old.begin;
     LibraryText result(String(bytes_).replace(old.begin, oldSize, text));
     const auto now = result.Find(old.name);
-    if (!now || now->begin != old.begin || now->end != old.begin + text.size() ||
-        now->readTo + oldSize != old.readTo + text.size())
+    if (!now || now->begin != old.begin || now->readTo + oldSize != old.readTo + text.size())
         Fail("the definition of \"" + old.name + "\" could not be read back");
     return result;
 }
@@ -163,7 +155,7 @@ LibraryText LibraryText::WithAppended(const String& definition) const {
     LibraryText result(text.append(Fitted(WithoutEchoes(definition), lineEnd)));
     const auto now = result.Find(name);
     if (!now) Fail(result.WhyNotFound(name));
-    if (now->begin != begin || now->end != result.bytes_.size())
+    if (now->begin != begin || now->readTo != result.bytes_.size())
         Fail("the definition of \"" + name + "\" could not be read back");
     return result;
 }

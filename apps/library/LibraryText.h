@@ -12,14 +12,15 @@ namespace zorvane {
 
 /// The part of a library that defines one plate: from its PLATE line to the last of its lines that
 /// says something. Blank lines and comments behind that stand between plates and are no part of it,
-/// although the reader takes those comments for the plate's.
+/// although the reader takes those comments for the plate's, as it does the comment at the end of
+/// the line that ends the plate, which mostly is the PLATE line of the next one.
 struct PlateBlock {
     std::size_t begin = 0;
     std::size_t end = 0;                ///< behind the last line's end
     std::size_t readTo = 0;             ///< where the reader goes on after the plate
     String name;                        ///< in the letter case of the library
     String definition;                  ///< the text of the plate, read alone
-    std::vector<String> commentsBehind; ///< what the plate's comment has from between the plates
+    std::vector<String> commentsBehind; ///< what the plate's comment has from behind the block
 };
 
 /// The bytes of a plate library, for changing one plate in them and nothing else.
@@ -39,7 +40,7 @@ class LibraryText {
     std::optional<PlateBlock> Find(const String& name) const;
     /// Find, or the failure that tells why there is no such plate.
     PlateBlock Get(const String& name) const;
-    /// The plate of a block, read alone.
+    /// The plate of a block, with all comments that the reader takes for its own.
     cmPlate PlateOf(const PlateBlock& block) const;
     /// The bytes of a block.
     std::string_view Of(const PlateBlock& block) const;
@@ -67,6 +68,9 @@ String Renamed(const String& definition, const String& name);
 
 /// The first plate that a text defines.
 cmPlate PlateIn(const String& text);
+
+/// The lines of a plate's comment as a definition has them behind "; ".
+std::vector<String> CommentLines(std::string_view comment);
 
 /// A definition without the comment lines that the reader makes again of comments at the end of
 /// other lines, so that they do not double with each writing and reading.
