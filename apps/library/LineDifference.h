@@ -34,7 +34,7 @@ std::vector<LineChange> Compare(const LineNumbers& lines);
 std::vector<ChangedLine> DefinitionDifference(std::string_view before, std::string_view after);
 
 /// The difference of two texts byte for byte in the unified form, with three lines around each
-/// change; empty when they are the same. The lines keep their line ends.
+/// change; empty when they are the same. The lines keep their line ends and end with LF.
 String UnifiedDifference(std::string_view before, std::string_view after, const String& name);
 
 } // namespace zorvane

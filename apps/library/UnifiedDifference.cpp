@@ -1,6 +1,5 @@
 #include "apps/library/LineDifference.h"
 #include "apps/library/LineNumbering.h"
-#include "apps/library/TextLines.h"
 
 #include <algorithm>
 
@@ -10,11 +9,15 @@ namespace {
 
 constexpr std::size_t kContext = 3;
 
-/// Lines with their line ends, so that another line end is a change too.
+/// Lines with their line ends, so that another line end is a change too. To patching tools a CR
+/// alone ends no line.
 std::vector<String> WholeLines(std::string_view text) {
     std::vector<String> lines;
-    for (const TextLine& line : LinesOf(text))
-        lines.push_back(String(line.text).append(line.end));
+    while (!text.empty()) {
+        const std::size_t size = std::min(text.find('\n'), text.size() - 1) + 1;
+        lines.emplace_back(text.substr(0, size));
+        text.remove_prefix(size);
+    }
     return lines;
 }
 
@@ -103,7 +106,8 @@ class Unified {
 
 String UnifiedDifference(std::string_view before, std::string_view after, const String& name) {
     const String hunks = Unified(before, after).Text();
-    return hunks.empty() ? hunks : "--- " + name + "\n+++ " + name + "\n" + hunks;
+    // Behind a tab, so that a name may have blanks in it.
+    return hunks.empty() ? hunks : "--- " + name + "\t\n+++ " + name + "\t\n" + hunks;
 }
 
 } // namespace zorvane

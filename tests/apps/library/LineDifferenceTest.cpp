@@ -35,6 +35,9 @@ TEST(UnifiedDifference, IsWhatPatchingToolsRead) {
         {"", "a\n", "@@ -0,0 +1,1 @@\n+a\n"},
         {"a\n", "", "@@ -1,1 +0,0 @@\n-a\n"},
         {"a\r\n", "a\n", "@@ -1,1 +1,1 @@\n-a\r\n+a\n"},
+        {"a\rb\r", "a\rc\r",
+         "@@ -1,1 +1,1 @@\n-a\rb\r\n\\ No newline at end of file\n+a\rc\r\n\\ No newline at end of "
+         "file\n"},
         {"a\nb", "a\nb\n", "@@ -1,2 +1,2 @@\n a\n-b\n\\ No newline at end of file\n+b\n"},
         {"1\n2\n3\n4\n5\n6\n7\n8\n", "1\n2\n3\n4\nx\n6\n7\n8\n",
          "@@ -2,7 +2,7 @@\n 2\n 3\n 4\n-5\n+x\n 6\n 7\n 8\n"},
@@ -45,8 +48,8 @@ TEST(UnifiedDifference, IsWhatPatchingToolsRead) {
          "@@ -1,4 +1,3 @@\n-a\n 1\n 2\n 3\n@@ -6,4 +5,3 @@\n 5\n 6\n 7\n-b\n"},
     };
     for (const auto& each : cases) {
-        const String heading = each.hunks.empty() ? "" : "--- a.dat\n+++ a.dat\n";
-        EXPECT_EQ(UnifiedDifference(each.before, each.after, "a.dat"), heading + each.hunks)
+        const String heading = each.hunks.empty() ? "" : "--- a b.dat\t\n+++ a b.dat\t\n";
+        EXPECT_EQ(UnifiedDifference(each.before, each.after, "a b.dat"), heading + each.hunks)
             << each.before << "/" << each.after;
     }
 }

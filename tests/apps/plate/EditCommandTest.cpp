@@ -86,7 +86,7 @@ TEST(EditCommand, SavesInPlaceAndKeepsTheRestByteForByte) {
                    "\n; about Two\nPLATE Two\nROWS 1\nCOLS 1\nVOLUME 5\nWELL Lid\n");
     EXPECT_EQ(BytesOf(library.path + "~"), kLibrary);
     EXPECT_EQ(run.out.substr(0, run.out.find("\n ; small")),
-              "--- " + library.path + "\n+++ " + library.path + "\n@@ -1,22 +1,19 @@");
+              "--- " + library.path + "\t\n+++ " + library.path + "\t\n@@ -1,22 +1,19 @@");
     EXPECT_EQ(library.Edit("One --shift 0,0,0 --in-place").out, "");
     const String recorded = BytesOf(library.path);
     EXPECT_EQ(library.Edit("One --shift 0,0,0 --in-place --diff").out, "") << "nothing changes";
