@@ -2,6 +2,7 @@
 #include "apps/library/LibraryDocument.h"
 #include "apps/library/LineDifference.h"
 #include "apps/plate/Command.h"
+#include "apps/plate/EditedText.h"
 #include "apps/plate/Files.h"
 #include "apps/plate/PlateEdits.h"
 

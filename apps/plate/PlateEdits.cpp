@@ -1,6 +1,5 @@
 #include "apps/plate/PlateEdits.h"
 
-#include "apps/library/LibraryText.h"
 #include "apps/plate/Files.h"
 #include "platetext/EveryValue.h"
 #include "runtime/Checked.h"
@@ -29,9 +28,21 @@ std::vector<String> PartsOf(const String& text, char mark, std::size_t count, co
     return parts;
 }
 
+/// Tells in words what a number that is too large, or a label without an end, has made fail.
+template <class Action>
+auto InWords(const String& tooLarge, Action&& action) {
+    try {
+        return std::forward<Action>(action)();
+    } catch (const RuntimeError& error) {
+        if (error.Number() == static_cast<Long>(ErrorNumber::Overflow)) Fail(tooLarge);
+        if (error.Number() != static_cast<Long>(ErrorNumber::InvalidProcedureCall)) throw;
+        Fail("there are no letters for so many rows");
+    }
+}
+
 Single NumberIn(const String& text) {
     if (!IsNumber(text)) Fail("\"" + text + "\" is not a number");
-    return LeadingSingle(text);
+    return InWords("\"" + text + "\" is too large", [&] { return LeadingSingle(text); });
 }
 
 std::pair<String, String> Pair(const String& text, char mark, const char* form) {
@@ -97,29 +108,21 @@ void Add(cmPlate& plate, const String& name, const String& from) {
     plate.SetProperty(name + ".Well", name);
 }
 
-/// The plate as its values say, without its comments, which grow where lines have trailing ones.
-String Values(cmPlate& plate) {
-    const String comment = std::exchange(plate.Comment, String());
-    String values = plate.AsText();
-    plate.Comment = comment;
-    return values;
+void Rotate(cmPlate& plate) {
+    RecordEveryValue(plate);
+    InWords("a value would be too large", [&] { plate.Rotate90(); });
 }
 
 } // namespace
 
-PlateEdit Rotation(const String& /*argument*/) {
-    return [](cmPlate& plate) {
-        RecordEveryValue(plate);
-        plate.Rotate90();
-    };
-}
+PlateEdit Rotation(const String& /*argument*/) { return Rotate; }
 
 PlateEdit Shift(const String& distances) {
     const auto parts = PartsOf(distances, ',', 3, "X,Y,Z");
     return
         [x = NumberIn(parts[0]), y = NumberIn(parts[1]), z = NumberIn(parts[2])](cmPlate& plate) {
             RecordEveryValue(plate);
-            plate.ShiftWells(x, y, z);
+            InWords("a value would be too large", [&] { plate.ShiftWells(x, y, z); });
         };
 }
 
@@ -142,16 +145,6 @@ PlateEdit Addition(const String& names) {
     return [pair = Pair(names, '=', "NEW=FROM")](cmPlate& plate) {
         Add(plate, pair.first, pair.second);
     };
-}
-
-String TextOf(cmPlate& plate) {
-    String text = plate.Text();
-    cmPlate again = PlateIn(text);
-    if (Values(again) != Values(plate)) {
-        Fail("the changed definition of \"" + plate.PlateName() +
-             "\" would be read back as another plate");
-    }
-    return text;
 }
 
 } // namespace zorvane

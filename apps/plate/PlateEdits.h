@@ -24,7 +24,4 @@ PlateEdit Removal(const String& name);
 /// "NEW=FROM": the new sub-well comes last and has the values of another one.
 PlateEdit Addition(const String& names);
 
-/// The text of an edited plate. Fails when the reader would make another plate of it.
-String TextOf(cmPlate& plate);
-
 } // namespace zorvane

@@ -112,7 +112,9 @@ TEST(EditCommand, SaysWhatCannotBeDoneAndLeavesTheLibrary) {
         {"One --swap Drop,drop", 1, ": sub-well \"Drop\" cannot be exchanged with itself"},
         {"Two --remove DEFAULT", 1, ": sub-well \"DEFAULT\" has no WELL line of its own"},
         {"Two --shift 1,1,1", 1,
-         ": the changed definition of \"Two\" would be read back as another plate"},
+         ": the changed definition of \"Two\" would be read back as another plate, \"Xoffset "
+         "1.00\" in \"Well DEFAULT\" as \"Xoffset 0.00\""},
+        {"One --shift 3e38,0,0 --shift 3e38,0,0", 1, ": a value would be too large"},
         {"One --shift 1,2", 2, nullptr},
         {"One --shift 1,2,x", 2, nullptr},
         {"One --shift 1e99,0,0", 2, nullptr},

@@ -1,0 +1,57 @@
+#include "apps/plate/EditedText.h"
+
+#include "apps/library/LibraryText.h"
+#include "apps/library/TextLines.h"
+#include "apps/plate/Files.h"
+#include "platetext/LineParts.h"
+#include "runtime/Text.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace zorvane {
+
+namespace {
+
+/// The plate as its values say, without its comments, which grow where lines have trailing ones.
+String Values(cmPlate& plate) {
+    const String comment = std::exchange(plate.Comment, String());
+    String values = plate.AsText();
+    plate.Comment = comment;
+    return values;
+}
+
+String Quoted(std::string_view line) { return "\"" + String(Trim(line)) + "\""; }
+
+/// The first line that differs, and the sub-well that it is about.
+String Difference(const String& before, const String& after) {
+    const auto old = LinesOf(before);
+    const auto now = LinesOf(after);
+    const auto isWell = [](const TextLine& line) { return LineParts(line.text).keyword == "Well"; };
+    std::size_t at = 0;
+    while (at < std::min(old.size(), now.size()) && old[at].text == now[at].text)
+        ++at;
+    const String was = at < old.size() ? Quoted(old[at].text) : "nothing";
+    const String is = at < now.size() ? Quoted(now[at].text) : "nothing";
+    const auto well =
+        std::find_if(old.rend() - static_cast<std::ptrdiff_t>(at), old.rend(), isWell);
+    const bool inWell = well != old.rend() && at < old.size() && !isWell(old[at]);
+    return was + (inWell ? " in " + Quoted(well->text) : String()) + " as " + is;
+}
+
+} // namespace
+
+String TextOf(cmPlate& plate) {
+    String text = plate.Text();
+    cmPlate again = PlateIn(text);
+    const String before = Values(plate);
+    const String after = Values(again);
+    if (after != before) {
+        Fail("the changed definition of \"" + plate.PlateName() +
+             "\" would be read back as another plate, " + Difference(before, after));
+    }
+    return text;
+}
+
+} // namespace zorvane
