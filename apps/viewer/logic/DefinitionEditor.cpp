@@ -2,6 +2,7 @@
 
 #include "platetext/EveryValue.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Text.h"
 #include "support/TStringPair.h"
 
 #include <utility>
@@ -20,6 +21,22 @@ void CheckNothingLost(const cmPlate& plate, const cmPlate& shown) {
                                "\" cannot be edited here: the control would lose the line \"" +
                                pair->Name() + " " + pair->Value() +
                                "\", at or behind a keyword that it does not know.");
+    }
+}
+
+bool IsComment(const String& line) { return TrimStart(line).substr(0, 1) == ";"; }
+
+/// A command that fails halfway, or that is given a name with a full stop, leaves the control with
+/// lines that a reader would not take for what they were.
+void CheckReadsBack(const String& definition) {
+    cmPlate again;
+    again.SetFromText(WithoutEchoes(definition));
+    for (const ChangedLine& line : DefinitionDifference(definition, again.Text())) {
+        if (line.change != LineChange::Removed || IsComment(line.text)) continue;
+        throw RuntimeError(static_cast<Long>(ErrorNumber::InvalidProcedureCall), "Zorvane",
+                           "\"" + NameIn(definition) + "\" was not saved: the line \"" +
+                               String(Trim(line.text)) +
+                               "\" could not be read back. Undo brings the plate back as it was.");
     }
 }
 
@@ -52,12 +69,14 @@ std::vector<ChangedLine> DefinitionEditor::Difference() const {
 }
 
 void DefinitionEditor::Save() {
+    CheckReadsBack(history_.Present());
     document_->Save(Library().WithReplaced(history_.Present()));
     history_.SetSaved();
 }
 
 void DefinitionEditor::SaveAs(const String& name) {
     String definition = Renamed(history_.Present(), name);
+    CheckReadsBack(definition);
     // The comments behind the old plate stay where they are.
     if (const auto old = Library().Find(plate_))
         definition = WithoutCommentsBehind(definition, *old);

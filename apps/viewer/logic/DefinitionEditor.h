@@ -38,7 +38,8 @@ class DefinitionEditor {
     /// What saving the present definition changes in the library.
     std::vector<ChangedLine> Difference() const;
 
-    /// Saves the present definition in place of the plate.
+    /// Saves the present definition in place of the plate. Fails, as SaveAs does, when a line of it
+    /// could not be read back.
     void Save();
     /// Saves it as another plate, which is the edited one from then on.
     void SaveAs(const String& name);

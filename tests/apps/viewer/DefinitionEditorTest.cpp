@@ -118,5 +118,43 @@ TEST(DefinitionEditor, RefusesAPlateOfWhichTheControlWouldLoseLines) {
     EXPECT_FALSE(editor.IsOpen());
 }
 
+TEST(DefinitionEditor, SavesNothingThatCouldNotBeReadBack) {
+    struct Row {
+        SubWellCommand command;
+        const char* answer;
+        const char* line;
+    };
+    const String library = "PLATE One\n" + String(kGrid) + "WELL Moat\nWELL Tip\n";
+    for (const Row& row : {Row{mnuAddNewSubWell, "a.b", "b.XOFFSET 0.00"},
+                           Row{mnuRenameSubwell, "a.b", "b.XOFFSET 0.00"},
+                           Row{mnuRenameSubwell, "Drop", "XOFFSET 4"},
+                           Row{mnuRenameSubwell, "My Drop", "Well My Drop"}}) {
+        Editing editing(library);
+        editing.Shown();
+        editing.plate.PageChosen(3);
+        editing.site.answers = {row.answer};
+        try {
+            editing.plate.MenuChosen(row.command);
+            editing.plate.ApplyPressed();
+        } catch (const RuntimeError&) { // The definition is left half changed.
+        }
+        editing.editor.Take(editing.plate.PlateClassText());
+        for (const bool asNew : {false, true}) {
+            try {
+                asNew ? editing.editor.SaveAs("Two") : editing.editor.Save();
+                ADD_FAILURE() << row.answer << " saved:\n" << editing.file.Bytes();
+            } catch (const RuntimeError& error) {
+                EXPECT_EQ(error.Description(),
+                          String(asNew ? "\"Two" : "\"One") + "\" was not saved: the line \"" +
+                              row.line +
+                              "\" could not be read back. Undo brings the plate back as it was.");
+            }
+        }
+        EXPECT_EQ(editing.file.Bytes(), library) << row.answer;
+        editing.editor.Undo();
+        EXPECT_TRUE(editing.editor.IsSaved()) << row.answer;
+    }
+}
+
 } // namespace
 } // namespace zorvane
