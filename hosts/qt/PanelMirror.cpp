@@ -59,7 +59,7 @@ void PanelMirror::Connect() {
                      [this] { Run([this] { plate_.MenuPressed(); }); });
     QObject::connect(&comment_, &QPlainTextEdit::textChanged, &frame_, [this] {
         const String& before = Elements().txtComment.text;
-        Run([&] { plate_.CommentTyped(TakenComment(comment_.toPlainText(), before)); });
+        Run([&] { plate_.CommentTyped(TakenComment(LinesIn(*comment_.document()), before)); });
     });
     QObject::connect(&style_, &QComboBox::activated, &frame_, [this](int position) {
         Run([&] { plate_.StyleChosen(static_cast<Integer>(position)); });

@@ -111,7 +111,7 @@ void PanelMirror::ShowComment(const SystemPalette& colors) {
     Paint(comment_, QPalette::Base, ToColor(Resolve(box.back, colors)));
     // Not disabled: a comment that can't be edited can still be scrolled and copied.
     comment_.setReadOnly(!box.enabled);
-    if (!comment_.isVisibleTo(&parent_) || comment_.toPlainText() != ShownComment(box.text))
+    if (!comment_.isVisibleTo(&parent_) || LinesIn(*comment_.document()) != ShownComment(box.text))
         comment_.setPlainText(ShownComment(box.text));
     comment_.setVisible(box.visible);
 }

@@ -2,6 +2,8 @@
 
 #include "runtime/Text.h"
 
+#include <QTextDocument>
+
 #include <algorithm>
 
 namespace zorvane {
@@ -21,6 +23,13 @@ bool FitsBytes(const QString& text) {
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() <= 0xFF; });
 }
 
+/// Leaves one kind of the line ends that a text box knows.
+void BreakLines(QString& text) {
+    for (const QChar end :
+         {QChar(QLatin1Char('\r')), QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
+        text.replace(end, QLatin1Char('\n'));
+}
+
 } // namespace
 
 QString ShownText(const String& text) {
@@ -36,7 +45,15 @@ String TakenText(const QString& shown, const String& before) {
 QString ShownComment(const String& comment) {
     QString lines = ShownText(comment);
     lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    BreakLines(lines);
     if (lines.endsWith(QLatin1Char('\n'))) lines.chop(1);
+    return lines;
+}
+
+// As plain text it would have blanks for the no-break spaces.
+QString LinesIn(const QTextDocument& document) {
+    QString lines = document.toRawText();
+    BreakLines(lines);
     return lines;
 }
 

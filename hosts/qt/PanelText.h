@@ -4,6 +4,8 @@
 
 #include <QString>
 
+class QTextDocument;
+
 namespace zorvane {
 
 /// Texts of a plate definition as text boxes show them, and back. A text is UTF-8 or, where its
@@ -18,6 +20,9 @@ String TakenText(const QString& shown, const String& before);
 
 /// A comment as lines without the end of the last one.
 QString ShownComment(const String& comment);
+
+/// The lines that stand in a text box, to be compared with ShownComment.
+QString LinesIn(const QTextDocument& document);
 
 /// A comment whose every line has its end, as a definition needs it.
 String TakenComment(const QString& shown, const String& before);

@@ -151,6 +151,18 @@ TEST(PanelMirror, NoLineOfACommentIsLost) {
     EXPECT_EQ(form.Panel().txtComment.text, "");
 }
 
+TEST(PanelMirror, NoBreakSpacesOfACommentStayWhatTheyAre) {
+    PanelForm form;
+    String text = kPlateText;
+    text.insert(text.find("XPITCH"), "; 5\xC2\xA0mm\r\n");
+    form.widget.plate().PlateClassText(text);
+    form.widget.setDataVisible(true);
+    form.Comment().moveCursor(QTextCursor::End);
+    form.widget.setEditEnable(true); // shows the panel anew
+    QTest::keyClicks(&form.Comment(), "ab");
+    EXPECT_EQ(form.Panel().txtComment.text, "5\xC2\xA0mmab\r\n");
+}
+
 TEST(PanelMirror, BytesThatAreNoUtf8SurviveAnEdit) {
     PanelForm form;
     form.widget.plate().SetProperty("ROWLABEL", "\xE4");
