@@ -68,8 +68,6 @@ void PanelMirror::Connect() {
                      [this] { Run([this] { plate_.ApplyPressed(); }); });
 }
 
-// Within one step the panel may close and open again. Only what it comes to is shown, so that the
-// focus stays in it.
 void PanelMirror::Run(const std::function<void()>& action) {
     const QPointer<QWidget> shown(&frame_);
     ++running_;

@@ -29,6 +29,10 @@ class PanelMirror final {
     /// what it can undo while it stays in sight for the same property with the same text.
     void Sync();
 
+    /// Runs a step that may close and open the panel on its way. Only what it comes to is shown, so
+    /// that the focus stays in the panel.
+    void Run(const std::function<void()>& action);
+
     /// Where the menu opens: at the pointer or, when it was asked for with a key, at its button.
     QPoint MenuPlace() const;
 
@@ -41,7 +45,6 @@ class PanelMirror final {
 
     const PanelElements& Elements() const { return plate_.Elements().panel; }
     void Connect();
-    void Run(const std::function<void()>& action);
     void Enter();
     void Close();
 

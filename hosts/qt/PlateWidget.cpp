@@ -186,14 +186,13 @@ void PlateWidget::Refit() {
     const Integer page = panel.comboSelect.position;
     if (open && panel.cmdApply.enabled) return;
     refitting_ = true;
-    Relayout();
-    Relayout();
-    if (open) {
-        Try([&] {
-            plate_->DataVisible(true);
-            plate_->PageChosen(page);
-        });
-    }
+    panel_->Run([&] {
+        Relayout();
+        Relayout();
+        if (!open) return;
+        plate_->DataVisible(true);
+        plate_->PageChosen(page);
+    });
     refitting_ = false;
 }
 

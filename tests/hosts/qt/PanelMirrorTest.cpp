@@ -326,5 +326,18 @@ TEST(PanelMirror, APanelHigherThanItsWidgetScrolls) {
     EXPECT_TRUE(IsUncovered(form, last));
 }
 
+TEST(PanelMirror, FittingThePlateToANewSizeLeavesTheFocusInThePanel) {
+    PanelForm form;
+    form.widget.setFixedSize(true);
+    form.widget.setRefitOnResize(true);
+    form.widget.setDataVisible(true);
+    form.Turn("General Properties");
+    QLineEdit& columns = *form.Row("Columns");
+    columns.setFocus();
+    form.widget.resize(form.widget.size() + QSize(40, 40));
+    EXPECT_EQ(QApplication::focusWidget(), &columns);
+    EXPECT_EQ(columns.accessibleName(), "Columns");
+}
+
 } // namespace
 } // namespace zorvane
