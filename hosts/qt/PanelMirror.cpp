@@ -25,6 +25,7 @@ PanelMirror::PanelMirror(QWidget& parent, Plate& plate, Runner run)
       style_(&contents_), apply_(&contents_) {
     frame_.hide();
     frame_.setAutoFillBackground(true);
+    frame_.setCursor(Qt::ArrowCursor); // what the pointer means on the plate, it does not here
     view_.setFrameShape(QFrame::NoFrame);
     view_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     view_.verticalScrollBar()->setStyleSheet(QLatin1String(kThinScrollBar));

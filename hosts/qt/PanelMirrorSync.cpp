@@ -15,6 +15,9 @@ namespace {
 
 QString ToQString(const String& text) { return QString::fromStdString(text); }
 
+/// A text of the plate's whose "&" are characters as any other.
+QString Plain(QString text) { return text.replace(QLatin1Char('&'), QLatin1String("&&")); }
+
 /// The container is empty down to its first element. The view begins below, so that nothing scrolls
 /// under the data button, which stands there.
 constexpr Single kEmptyTop = 225;
@@ -78,8 +81,8 @@ void PanelMirror::PlaceFrame(const SystemPalette& colors) {
     QRect place = ToPixels(frame.box).toRect();
     place.setBottom(std::min(place.bottom(), parent_.height() - 1));
     frame_.setGeometry(place);
-    frame_.setTitle(frame_.fontMetrics().elidedText(ShownText(frame.caption), Qt::ElideMiddle,
-                                                    place.width() - 24));
+    frame_.setTitle(Plain(frame_.fontMetrics().elidedText(
+        ShownText(frame.caption), Qt::ElideMiddle, place.width() - 2 * PanelBox::kTitleLeft)));
     Paint(frame_, QPalette::Window, ToColor(Resolve(frame.back, colors)));
     Paint(frame_, QPalette::WindowText, ToColor(Resolve(frame.text, colors)));
 
@@ -128,8 +131,7 @@ void PanelMirror::ShowRows(const SystemPalette& colors) {
         const TextBox& box = panel.txtData[i];
         Place(*rows_[i].caption,
               {caption.box.left, caption.box.top, box.box.left - 30, caption.box.height});
-        rows_[i].caption->setText(
-            ShownText(caption.caption).replace(QLatin1Char('&'), QLatin1String("&&")));
+        rows_[i].caption->setText(Plain(ShownText(caption.caption)));
         rows_[i].caption->setVisible(caption.visible && !covered);
 
         RowEdit& text = *rows_[i].text;

@@ -6,11 +6,10 @@
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionGroupBox>
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <limits>
 
 namespace zorvane {
 
@@ -29,16 +28,14 @@ void PaintFrame(QWidget& widget, QPainter& painter) {
 
 } // namespace
 
-// Some styles draw a frame that is hardly seen, and this one lies over wells.
-void PanelBox::paintEvent(QPaintEvent* event) {
-    QGroupBox::paintEvent(event);
-    QStyleOptionGroupBox option;
-    initStyleOption(&option);
-    const QRect frame =
-        style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxFrame, this);
+// Styles draw frames that are hardly seen over wells, and titles that stand on them.
+void PanelBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(frame.adjusted(0, 0, -1, -1));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(QRect(kTitleLeft, 1, width() - 2 * kTitleLeft, kTitleHeight),
+                     Qt::AlignVCenter | Qt::TextShowMnemonic, title());
 }
 
 void PanelBox::keyPressEvent(QKeyEvent* event) {
@@ -54,6 +51,7 @@ void PanelBox::keyReleaseEvent(QKeyEvent* event) { event->accept(); }
 
 RowEdit::RowEdit(QWidget* parent) : QLineEdit(parent) {
     setFrame(false);
+    setMaxLength(std::numeric_limits<int>::max()); // a text that is cut could not be typed in
     setTextMargins(kTextMargin - 1, 0, kTextMargin - 1, 0);
 }
 

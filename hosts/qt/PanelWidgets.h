@@ -17,6 +17,10 @@ namespace zorvane {
 /// wells.
 class PanelBox final : public QGroupBox {
   public:
+    /// The title is in line with what the panel holds, above the data button.
+    static constexpr int kTitleLeft = 8;
+    static constexpr int kTitleHeight = 15;
+
     using QGroupBox::QGroupBox;
     std::function<void()> onEnter;
     std::function<void()> onEscape;

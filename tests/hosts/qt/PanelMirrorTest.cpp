@@ -339,5 +339,14 @@ TEST(PanelMirror, FittingThePlateToANewSizeLeavesTheFocusInThePanel) {
     EXPECT_EQ(columns.accessibleName(), "Columns");
 }
 
+TEST(PanelMirror, AnAmpersandInThePlatesNameIsNoMnemonic) {
+    PanelForm form;
+    String text = kPlateText;
+    text.replace(text.find("Demo"), 4, "A&B");
+    form.widget.plate().PlateClassText(text);
+    form.widget.setDataVisible(true);
+    EXPECT_EQ(form.widget.findChild<QGroupBox*>()->title(), "A&&B - Details");
+}
+
 } // namespace
 } // namespace zorvane
