@@ -54,9 +54,10 @@ QString Summary(const std::vector<ChangedLine>& lines, bool edited) {
     const auto removed = count(LineChange::Removed);
     const auto added = count(LineChange::Added);
     if (removed + added == 0) return QObject::tr("This is what the library holds.");
-    if (edited)
+    if (edited) {
         return QObject::tr("Saving takes out %1 and puts in %2.")
             .arg(LineCount(removed), LineCount(added));
+    }
     return QObject::tr("Nothing was edited. Saving an edit also rewrites the coloured lines.");
 }
 
