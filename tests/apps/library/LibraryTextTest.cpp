@@ -79,7 +79,7 @@ TEST(LibraryText, ReplacesOnePlateByteForByte) {
 
 TEST(LibraryText, RefusesWhatCouldNotBeReadBack) {
     const struct {
-        const char* library;
+        const char* before;
         const char* definition;
         const char* reason;
     } cases[] = {
@@ -103,13 +103,13 @@ TEST(LibraryText, RefusesWhatCouldNotBeReadBack) {
         {"PLATE A\n", "no plate line\r\n", "the library has no plate \"\""},
     };
     for (const auto& each : cases)
-        EXPECT_EQ(Replaced(each.library, each.definition), String("failed: ") + each.reason)
-            << each.library;
+        EXPECT_EQ(Replaced(each.before, each.definition), String("failed: ") + each.reason)
+            << each.before;
 }
 
 TEST(LibraryText, AddsAPlateBehindTheLastOne) {
     const struct {
-        String library;
+        String before;
         String definition;
         String after;
     } cases[] = {
@@ -127,7 +127,7 @@ TEST(LibraryText, AddsAPlateBehindTheLastOne) {
          "failed: the definition of \"B\" could not be read back"},
     };
     for (const auto& each : cases)
-        EXPECT_EQ(Appended(each.library, each.definition), each.after) << each.library;
+        EXPECT_EQ(Appended(each.before, each.definition), each.after) << each.before;
 }
 
 String SampleIn(const String& lineEnd) {
