@@ -1,11 +1,15 @@
 #include "apps/plate/Files.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <random>
 #include <system_error>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace zorvane {
 
@@ -33,6 +37,15 @@ class TemporaryFile {
     fs::path path_;
 };
 
+/// Returns once a file's bytes are on the device: a rename alone may reach it before them.
+void FlushToDevice(const fs::path& path) {
+    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    const bool flushed = file >= 0 && ::fsync(file) == 0;
+    const std::error_code failure(errno, std::generic_category());
+    if (file >= 0) ::close(file);
+    if (!flushed) throw fs::filesystem_error("flush", failure);
+}
+
 bool IsStandard(const String& file) { return file.empty() || file == "-"; }
 
 } // namespace
@@ -55,6 +68,7 @@ void ReplaceFile(const String& file, const std::function<void(const String& temp
         if (fs::exists(old) && !fs::is_regular_file(old)) Fail(file + ": is not a file");
         const TemporaryFile temporary(target);
         write(temporary.Path().string());
+        FlushToDevice(temporary.Path());
         if (fs::exists(old)) fs::permissions(temporary.Path(), old.permissions());
         fs::rename(temporary.Path(), target);
     } catch (const fs::filesystem_error& error) {
