@@ -3,14 +3,16 @@
 # Run as: cmake -DSOURCE_DIR=<tree> -P CheckFloors.cmake
 cmake_minimum_required(VERSION 3.25)
 
-set(folders runtime platform support model platetext control drawing)
+set(folders runtime platform support model platetext platecheck control drawing welldata)
 set(allowed_runtime runtime)
 set(allowed_platform runtime platform)
 set(allowed_support runtime platform support platetext/PlateFunctions.h)
 set(allowed_model runtime platform support platetext model)
 set(allowed_platetext ${allowed_model})
+set(allowed_platecheck ${allowed_model} platecheck)
 set(allowed_control ${allowed_model} control)
 set(allowed_drawing ${allowed_control} drawing)
+set(allowed_welldata ${allowed_control} welldata)
 
 set(standard_headers
     algorithm any array atomic bit bitset cctype cerrno cfloat charconv chrono climits cmath compare

@@ -1,6 +1,6 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
-#include "platetext/LibraryCheck.h"
+#include "platecheck/LibraryCheck.h"
 #include "runtime/Text.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "apps/plate/Csv.h"
 
-#include "apps/welldata/CsvReader.h"
+#include "welldata/CsvReader.h"
 
 namespace zorvane {
 

@@ -1,8 +1,8 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
 #include "apps/plate/PlatePicture.h"
-#include "apps/welldata/WellNames.h"
 #include "platform/memory/MemorySite.h"
+#include "welldata/WellNames.h"
 
 #include <cstdio>
 #include <memory>

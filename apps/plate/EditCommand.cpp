@@ -1,10 +1,10 @@
-#include "apps/library/DiskFiles.h"
-#include "apps/library/LibraryDocument.h"
-#include "apps/library/LineDifference.h"
 #include "apps/plate/Command.h"
 #include "apps/plate/EditedText.h"
 #include "apps/plate/Files.h"
 #include "apps/plate/PlateEdits.h"
+#include "library/DiskFiles.h"
+#include "library/LibraryDocument.h"
+#include "library/LineDifference.h"
 
 #include <iostream>
 #include <map>

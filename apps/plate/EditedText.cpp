@@ -1,8 +1,8 @@
 #include "apps/plate/EditedText.h"
 
-#include "apps/library/LibraryText.h"
-#include "apps/library/TextLines.h"
 #include "apps/plate/Files.h"
+#include "library/LibraryText.h"
+#include "library/TextLines.h"
 #include "platetext/LineParts.h"
 #include "runtime/Text.h"
 

@@ -1,7 +1,7 @@
 #include "apps/plate/ShownWellData.h"
 
-#include "apps/welldata/WellDataCsv.h"
 #include "runtime/NumberText.h"
+#include "welldata/WellDataCsv.h"
 
 #include <algorithm>
 #include <string>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "apps/welldata/VolumeScale.h"
 #include "control/Plate.h"
 #include "drawing/Canvas.h"
+#include "welldata/VolumeScale.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "apps/library/LineDifference.h"
+#include "library/LineDifference.h"
 
 #include <QWidget>
 

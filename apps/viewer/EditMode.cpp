@@ -1,8 +1,8 @@
 #include "apps/viewer/EditMode.h"
 
-#include "apps/library/SafeSave.h"
 #include "apps/viewer/DifferencePanel.h"
 #include "apps/viewer/PlateSession.h"
+#include "library/SafeSave.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "apps/library/DiskFiles.h"
 #include "apps/viewer/EditQuestions.h"
 #include "apps/viewer/logic/DefinitionEditor.h"
+#include "library/DiskFiles.h"
 
 #include <QObject>
 #include <QString>

@@ -1,7 +1,7 @@
 #include "apps/viewer/FillDialog.h"
 #include "apps/viewer/MainWindow.h"
 #include "apps/viewer/PlateSession.h"
-#include "apps/welldata/WellDataCsv.h"
+#include "welldata/WellDataCsv.h"
 
 #include <QFileDialog>
 #include <QFileInfo>

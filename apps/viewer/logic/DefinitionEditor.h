@@ -1,8 +1,8 @@
 #pragma once
 
-#include "apps/library/DefinitionHistory.h"
-#include "apps/library/LibraryDocument.h"
-#include "apps/library/LineDifference.h"
+#include "library/DefinitionHistory.h"
+#include "library/LibraryDocument.h"
+#include "library/LineDifference.h"
 
 #include <optional>
 #include <vector>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "apps/welldata/VolumeScale.h"
 #include "control/Plate.h"
 #include "runtime/Types.h"
+#include "welldata/VolumeScale.h"
 
 #include <utility>
 #include <vector>

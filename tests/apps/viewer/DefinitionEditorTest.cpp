@@ -1,9 +1,9 @@
 #include "apps/viewer/logic/DefinitionEditor.h"
 
 #include "TempFile.h"
-#include "apps/library/DiskFiles.h"
-#include "apps/library/SafeSave.h"
 #include "control/Plate.h"
+#include "library/DiskFiles.h"
+#include "library/SafeSave.h"
 #include "platform/memory/MemorySite.h"
 
 namespace zorvane {

@@ -1,10 +1,10 @@
 #include "apps/viewer/EditMode.h"
 #include "TempFile.h"
-#include "apps/library/SafeSave.h"
 #include "apps/viewer/DifferencePanel.h"
 #include "apps/viewer/LibraryPanel.h"
 #include "apps/viewer/Notice.h"
 #include "apps/viewer/OpenedWindow.h"
+#include "library/SafeSave.h"
 
 #include <QLineEdit>
 #include <QMenu>

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "library/FileLayer.h"
+
+#include <string_view>
+
+namespace zorvane {
+
+/// The number of the failure of a save that found another content than the one that was read.
+inline constexpr Long kChangedOnDisk = 1101;
+
+/// Where the content that a save replaced is kept.
+String BackupOf(const String& path);
+
+/// Replaces the content of a file. The new bytes are written to a temporary file beside it, flushed
+/// and renamed, so that at any moment the name leads to all of the old bytes or to all of the new
+/// ones. Permissions are kept and symbolic links are followed; a hard link keeps the old content.
+///
+/// `before` is what the file held when it was read. It must still hold that, and it is then kept as
+/// BackupOf(file), in place of an earlier backup.
+///
+/// Any failure leaves the file as it was, removes the temporary ones and raises a RuntimeError that
+/// says what failed and why: kChangedOnDisk, or the number of the FileLayer.
+void SafeSave(FileLayer& files, const String& path, std::string_view before,
+              std::string_view after);
+
+} // namespace zorvane

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "model/cmPlate.h"
+#include "platecheck/ArgumentCheck.h"
+#include "platecheck/FindingList.h"
+#include "platecheck/PlateCheck.h"
+
+#include <map>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace zorvane {
+
+/// Gives the lines of a library to the reader one by one and notes what becomes of each. Where the
+/// look-up of a plate would stop, this one goes on as if the line were not there.
+class LibraryChecker {
+  public:
+    explicit LibraryChecker(const String& fileName) : findings_(fileName) {}
+
+    /// Lines are counted from 1.
+    void Read(String& line);
+    std::vector<Finding> Finish() &&;
+
+  private:
+    /// Something that ends every look-up, and what it says once the plates behind it are counted.
+    struct Stop {
+        SourceLine line;
+        String reason;
+        Long platesUpToHere;
+        bool insidePlate;
+    };
+
+    Long Feed();
+    void OpenPlate(const LineParts& parts);
+    void ClosePlate();
+    void ReadKeyword(const LineParts& parts, bool failed);
+    void NoteRepetition(const KeywordTraits& traits, const LineParts& parts);
+    void CheckSubWellName(const LineParts& parts);
+    void UnknownKeyword(const LineParts& parts);
+    void StrayLine(const LineParts& parts);
+    void AddStop(String reason, bool insidePlate);
+    void Report(const Stop& stop);
+
+    cmPlate plate_;
+    FindingList findings_;
+    SourceLine line_;
+    bool inPlate_ = false;
+    bool broken_ = false; ///< a line of the plate failed
+    Long plates_ = 0;
+    PlateLines lines_;
+    std::map<std::string_view, SourceLine> givenInSubWell_;
+    std::unordered_map<String, Long> plateNames_; ///< line numbers by lower case name
+    std::vector<Stop> stops_;
+};
+
+} // namespace zorvane

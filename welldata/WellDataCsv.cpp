@@ -1,0 +1,212 @@
+#include "welldata/WellDataCsv.h"
+
+#include "runtime/NumberText.h"
+#include "runtime/Text.h"
+#include "welldata/CsvReader.h"
+#include "welldata/VolumeScale.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <unordered_map>
+
+namespace zorvane {
+
+namespace {
+
+enum Column : std::size_t { Well, SubWell, Defined, Volume, Text, Error, Annotation, kColumns };
+
+constexpr std::array<const char*, kColumns> kNames{"well", "sub-well", "defined",   "volume",
+                                                   "text", "error",    "annotation"};
+
+String Quoted(const String& text) { return "\"" + text + "\""; }
+
+String AllNames() {
+    String names;
+    for (const char* name : kNames)
+        names += (names.empty() ? "" : ", ") + String(name);
+    return names;
+}
+
+/// Which column of the file holds what.
+class Header {
+  public:
+    explicit Header(const CsvRecord& record) : line_(record.line) {
+        for (const String& name : record.fields)
+            Add(String(Trim(name)));
+        if (!Has(Well)) FailAt(line_, 1, "no column is named " + Quoted(kNames[Well]));
+    }
+
+    std::size_t Count() const { return columns_.size(); }
+    bool Has(Column column) const { return PlaceOf(column) < Count(); }
+    std::size_t PlaceOf(Column column) const {
+        return static_cast<std::size_t>(std::find(columns_.begin(), columns_.end(), column) -
+                                        columns_.begin());
+    }
+    String NameAt(std::size_t place) const { return kNames[columns_[place]]; }
+
+  private:
+    void Add(const String& name) {
+        const auto* const known =
+            std::find_if(kNames.begin(), kNames.end(),
+                         [&](const char* candidate) { return EqualNoCase(candidate, name); });
+        if (known == kNames.end()) {
+            FailAt(line_, Count() + 1,
+                   "no column is known by " + Quoted(name) + "; there are " + AllNames());
+        }
+        const auto column = static_cast<Column>(known - kNames.begin());
+        if (Has(column)) FailAt(line_, Count() + 1, "the column is there twice", *known);
+        columns_.push_back(column);
+    }
+
+    Long line_;
+    std::vector<Column> columns_;
+};
+
+/// Turns the fields of one record into values.
+class RowParser {
+  public:
+    RowParser(const Header& header, const WellNames& names, const CsvRecord& record)
+        : header_(header), names_(names), record_(record) {
+        const std::size_t count = record.fields.size();
+        if (count > header.Count()) FailAt(record.line, header.Count() + 1, "a field too many");
+        if (count < header.Count()) {
+            FailAt(record.line, count + 1, "the line ends before this column",
+                   header.NameAt(count));
+        }
+    }
+
+    WellDataRow Parse() const {
+        WellDataRow row;
+        row.wellNo = ParseWell();
+        if (header_.Has(Defined)) row.defined = ParseDefined();
+        if (header_.Has(Volume)) row.volume = ParseVolume();
+        if (header_.Has(Text)) row.text = Field(Text);
+        if (header_.Has(Error)) row.errorCode = ParseErrorCode();
+        if (header_.Has(Annotation)) row.annotation = Field(Annotation);
+        return row;
+    }
+
+    [[noreturn]] void Fail(Column column, const String& message) const {
+        FailAt(record_.line, header_.PlaceOf(column) + 1, message, kNames[column]);
+    }
+
+  private:
+    const String& Field(Column column) const { return record_.fields[header_.PlaceOf(column)]; }
+    String Trimmed(Column column) const { return String(Trim(Field(column))); }
+
+    Integer ParseWell() const {
+        const String legend = Trimmed(Well);
+        const auto position = names_.FindPosition(legend);
+        if (!position) Fail(Well, "the plate has no well " + Quoted(legend));
+        const int before = (ParseSubWell() - 1) * names_.Rows() * names_.Cols();
+        return static_cast<Integer>(before + *position);
+    }
+
+    Integer ParseSubWell() const {
+        if (!header_.Has(SubWell) || Trimmed(SubWell).empty()) return 1;
+        const auto position = names_.FindSubWell(Trimmed(SubWell));
+        if (!position) Fail(SubWell, "the plate has no sub-well " + Quoted(Trimmed(SubWell)));
+        return *position;
+    }
+
+    Boolean ParseDefined() const {
+        const String text = LowerText(Trimmed(Defined));
+        if (text == "yes" || text == "true" || text == "1") return true;
+        if (text.empty() || text == "no" || text == "false" || text == "0") return false;
+        Fail(Defined, Quoted(Trimmed(Defined)) + " is neither yes nor no");
+    }
+
+    /// 0 for an empty field.
+    Double ParseNumber(Column column) const {
+        const String text = Trimmed(column);
+        if (text.empty()) return 0;
+        if (!IsNumber(text)) Fail(column, Quoted(text) + " is not a number");
+        return LeadingNumber(text);
+    }
+
+    Single ParseVolume() const {
+        const Double volume = ParseNumber(Volume);
+        if (std::abs(volume) > Double{std::numeric_limits<Single>::max()})
+            Fail(Volume, Trimmed(Volume) + " is too large");
+        return static_cast<Single>(volume);
+    }
+
+    Integer ParseErrorCode() const {
+        using Limits = std::numeric_limits<Integer>;
+        const Double code = ParseNumber(Error);
+        if (code != std::trunc(code) || code < Limits::min() || code > Limits::max())
+            Fail(Error, Trimmed(Error) + " is not a whole number from -32768 to 32767");
+        return static_cast<Integer>(code);
+    }
+
+    const Header& header_;
+    const WellNames& names_;
+    const CsvRecord& record_;
+};
+
+void ApplyMark(Plate& plate, const WellDataRow& row) {
+    const Boolean defined = row.defined.value_or(plate.IsDefined(row.wellNo));
+    const Integer code = row.errorCode.value_or(plate.ErrorCode(row.wellNo));
+    // Marking colours by the error code, and unmarking clears it.
+    plate.ErrorCode(row.wellNo, code);
+    plate.IsDefined(row.wellNo, defined);
+    plate.ErrorCode(row.wellNo, code);
+}
+
+String WellLine(const Plate& plate, const WellNames& names, Integer well) {
+    const auto volume = KnownVolume(plate, well);
+    return CsvText(names.Position(well)) + "," + CsvText(names.SubWell(well)) + "," +
+           (plate.IsDefined(well) ? "yes" : "no") + "," + (volume ? SingleText(*volume) : "") +
+           "," + CsvText(plate.Text(well)) + "," + std::to_string(plate.ErrorCode(well)) + "," +
+           CsvText(plate.WellAnnotation(well)) + "\r\n";
+}
+
+String HeaderLine() {
+    String line;
+    for (const char* name : kNames)
+        line += (line.empty() ? "" : ",") + String(name);
+    return line + "\r\n";
+}
+
+} // namespace
+
+std::vector<WellDataRow> ParseWellData(std::string_view csv, const WellNames& names) {
+    CsvReader reader(csv);
+    CsvRecord record;
+    if (!reader.Next(record)) FailAt(1, 1, "the file is empty");
+    const Header header(record);
+
+    std::vector<WellDataRow> rows;
+    std::unordered_map<Integer, Long> lines;
+    while (reader.Next(record)) {
+        const RowParser parser(header, names, record);
+        rows.push_back(parser.Parse());
+        const auto [first, isNew] = lines.emplace(rows.back().wellNo, record.line);
+        if (!isNew) {
+            parser.Fail(Well, names.Full(rows.back().wellNo) + " is on line " +
+                                  std::to_string(first->second) + " already");
+        }
+    }
+    return rows;
+}
+
+void ApplyWellData(Plate& plate, const std::vector<WellDataRow>& rows) {
+    for (const WellDataRow& row : rows) {
+        if (row.defined || row.errorCode) ApplyMark(plate, row);
+        if (row.volume) plate.SetVolume(row.wellNo, *row.volume);
+        if (row.text) plate.Text(row.wellNo, *row.text);
+        if (row.annotation) plate.WellAnnotation(row.wellNo, *row.annotation);
+    }
+}
+
+String WellDataText(const Plate& plate, const WellNames& names) {
+    String text = HeaderLine();
+    for (Integer well = 0; well < plate.TotalWells(); ++well)
+        text += WellLine(plate, names, well);
+    return text;
+}
+
+} // namespace zorvane
