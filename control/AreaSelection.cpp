@@ -60,6 +60,7 @@ void FrameBlock(ControlParts parts, const Block& block) {
 
 void SelectArea(ControlParts parts, Integer columns, Integer rows) {
     PlateState& state = parts.state;
+    parts.site.HandOut();
     parts.focus.RectangleVisible(false);
     const Block block = BlockOf(state, columns, rows);
     state.ArrayX = block.left;
@@ -68,12 +69,12 @@ void SelectArea(ControlParts parts, Integer columns, Integer rows) {
     state.ArrayHeight = Checked(block.bottom) - block.top + 1;
 
     if (state.ArrayWidth == 1 && state.ArrayHeight == 1) {
-        parts.events.Raise([&](PlateObserver& host) { host.SelectWell(state.CurrentWell); });
+        parts.site.Raise([&](PlateObserver& host) { host.SelectWell(state.CurrentWell); });
         return;
     }
     SelectBlock(parts, block);
     if (state.SelectBoxEnabled) FrameBlock(parts, block);
-    parts.events.Raise([](PlateObserver& host) { host.SelectMultipleWells(); });
+    parts.site.Raise([](PlateObserver& host) { host.SelectMultipleWells(); });
 }
 
 } // namespace zorvane

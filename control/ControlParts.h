@@ -1,20 +1,18 @@
 #pragma once
 
-#include "control/PlateEvents.h"
+#include "control/Notifier.h"
 #include "control/PlateState.h"
 #include "control/Surface.h"
 #include "control/cmFocus.h"
-#include "platform/HostSite.h"
 
 namespace zorvane {
 
-/// What the parts of one control work on. All of it belongs to the Plate, the site to its host.
+/// What the parts of one control work on. All of it belongs to the Plate.
 struct ControlParts {
     PlateState& state;
     Surface& surface;
     cmFocus& focus;
-    PlateEvents& events;
-    HostSite& site;
+    Notifier& site;
 };
 
 } // namespace zorvane

@@ -28,9 +28,8 @@ void ShowDataPanel(ControlParts parts, Boolean visible) {
         width = plate.width;
         height = plate.height + button / 2;
     }
-    if (width != parts.site.Width() || height != parts.site.Height())
-        parts.site.Resize(width, height);
-    RepaintAll(parts);
+    parts.site.Resize(width, height);
+    parts.site.RepaintAll();
 }
 
 // Entries are written over in place: a layout of the same plate allocates nothing.
@@ -77,14 +76,9 @@ void EnableEditing(ControlParts parts, Boolean on) {
 void ApplyPage(ControlParts parts) {
     ReadPage(parts, parts.surface.panel.comboSelect.position);
     LayoutPlate(parts, false);
-    parts.events.Raise([](PlateObserver& host) { host.ApplyChanges(); });
+    parts.site.Raise([](PlateObserver& host) { host.ApplyChanges(); });
     parts.state.LayoutBusy = false;
     ShowDataPanel(parts, true);
-}
-
-void PanelChanged(ControlParts parts, const Rect& before) {
-    if (parts.surface.fraData.visible) parts.site.Repaint(Union(before, parts.surface.fraData.box));
-    parts.site.PanelChanged();
 }
 
 } // namespace zorvane

@@ -22,8 +22,4 @@ void EnableEditing(ControlParts parts, Boolean on);
 /// panel is open on its first page afterwards.
 void ApplyPage(ControlParts parts);
 
-/// Something in the panel has changed: the host mirrors and paints it again. `before` is the area
-/// that the panel took up until now.
-void PanelChanged(ControlParts parts, const Rect& before);
-
 } // namespace zorvane

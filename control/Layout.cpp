@@ -225,13 +225,10 @@ class Layout {
 } // namespace
 
 void LayoutPlate(ControlParts parts, Boolean fullReset) {
-    try {
-        Layout(parts, fullReset).Run();
-    } catch (...) {
-        RepaintAll(parts);
-        throw;
-    }
-    RepaintAll(parts);
+    parts.site.RepaintAll();
+    parts.site.PlateChanged();
+    if (fullReset) parts.site.SelectionChanged();
+    Layout(parts, fullReset).Run();
 }
 
 } // namespace zorvane

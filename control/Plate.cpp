@@ -7,7 +7,7 @@
 
 namespace zorvane {
 
-Plate::Plate(HostSite& site) : site_(site), focus_(site) {
+Plate::Plate(HostSite& site) : site_(site, PlateState::CurrentWell), focus_(site) {
     DefaultFileName = DefaultLibrary();
     FileName = DefaultFileName;
 }
@@ -25,8 +25,9 @@ String Plate::DefaultLibrary() {
 Boolean Plate::SetPlate(const String& PName, const String& FName) {
     PlateDef = std::make_unique<cmPlate>();
     if (!FName.empty()) FileName = FName;
-    if (!PlateDef->SetPlate(FileName, PName)) return false;
-    ShowLoadedPlate();
+    // A failure shows a message.
+    if (!site_.CallOut([&] { return PlateDef->SetPlate(FileName, PName); })) return false;
+    site_.Operate([&] { ShowLoadedPlate(); });
     return true;
 }
 
@@ -38,8 +39,11 @@ void Plate::PlateClassText(const String& value) {
     auto definition = std::make_unique<cmPlate>();
     definition->SetFromText(value);
     PlateDef = std::move(definition);
-    surface_.cmdData.caption.clear();
-    ShowLoadedPlate();
+    site_.Operate([&] {
+        surface_.cmdData.caption.clear();
+        site_.DataButtonChanged();
+        ShowLoadedPlate();
+    });
 }
 
 void Plate::ShowLoadedPlate() {
@@ -65,7 +69,7 @@ String Plate::GetProperty(const String& Name) const { return Definition().GetPro
 
 void Plate::DrawingScale(Single value) {
     PlateState::DrawingScale = value;
-    if (PlateLoaded) LayoutPlate(Parts(), false);
+    if (PlateLoaded) site_.Operate([&] { LayoutPlate(Parts(), false); });
 }
 
 void Plate::Paint() { focus_.Refresh(); }

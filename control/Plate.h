@@ -2,13 +2,13 @@
 
 #include "control/ArrayFill.h"
 #include "control/ControlParts.h"
-#include "control/PlateEvents.h"
+#include "control/Notifier.h"
+#include "control/PlateFields.h"
 #include "control/PlateObserver.h"
 #include "control/PlateState.h"
 #include "control/PlateTypes.h"
 #include "control/Surface.h"
 #include "control/cmFocus.h"
-#include "platform/HostSite.h"
 #include "platform/PropertyStore.h"
 #include "runtime/Types.h"
 
@@ -22,7 +22,7 @@ namespace zorvane {
 /// A well number counts from 0: the well of sub-well s (from 1) at row r and column c (from 0) is
 /// (s - 1) * Rows * Cols + r * Cols + c. Lengths of the plate are millimetres, those of the drawing
 /// are drawing units (twips, 1440 an inch). Every failure is a RuntimeError.
-class Plate : private PlateState {
+class Plate : public PlateState {
   public:
     /// Starts the control up: its outline drawer exists and its library is the default one, but no
     /// plate is loaded. The site must outlive the control.
@@ -30,32 +30,6 @@ class Plate : private PlateState {
     ~Plate();
     Plate(const Plate&) = delete;
     Plate& operator=(const Plate&) = delete;
-
-    // Fields that the host reads and writes directly.
-    using PlateState::Cols;
-    using PlateState::DefaultSelectColor;
-    using PlateState::DefinedWellColor;
-    using PlateState::DeselectedColor;
-    using PlateState::Dirty;
-    using PlateState::DragDrop;
-    using PlateState::ErrorWellColor;
-    using PlateState::FileName;
-    using PlateState::FixedSize;
-    using PlateState::HorizontalCentred;
-    using PlateState::MultipleSelect;
-    using PlateState::PHeight;
-    using PlateState::Rows;
-    using PlateState::SelectedColor;
-    using PlateState::Status;
-    using PlateState::SubWellCount;
-    using PlateState::VerticalCentred;
-    using PlateState::XLeft;
-    using PlateState::xOverall;
-    using PlateState::XPitch;
-    using PlateState::yOverall;
-    using PlateState::YPitch;
-    using PlateState::YTop;
-    using PlateState::ZClear;
 
     // Creation and persistence.
 
@@ -111,6 +85,8 @@ class Plate : private PlateState {
     Boolean EditEnable() const { return PlateState::EditEnable; }
     /// Lets the operator edit the plate definition in the panel.
     void EditEnable(Boolean value);
+    /// Whether the panel holds edits that ApplyPressed would take.
+    Boolean EditsPending() const { return surface_.panel.cmdApply.enabled; }
     /// Shows a page of the plate definition; the page chooser stays. Error 9 for the page of a
     /// sub-well that the definition does not have.
     void SetDataDisplay(Integer Index);
@@ -153,6 +129,8 @@ class Plate : private PlateState {
     void MouseEnabled(Boolean value);
     /// Whether an area selection is framed; False hides the frame at once.
     void SelectBoxEnabled(Boolean value);
+    /// Deselects every well; the current one stays.
+    void ClearSelection();
     /// Marks the whole control as the selected one.
     Boolean Selected() const { return PlateState::Selected; }
     void Selected(Boolean value);
@@ -192,6 +170,11 @@ class Plate : private PlateState {
     Boolean IsDefined(Integer WellNo) const;
     /// Marks and colours a well; False also clears its error code.
     void IsDefined(Integer WellNo, Boolean value);
+    /// The colours of a well's bottom and rim.
+    Long WellFill(Integer WellNo) const;
+    void WellFill(Integer WellNo, Long color);
+    Long RimFill(Integer WellNo) const;
+    void RimFill(Integer WellNo, Long color);
     /// False for any number that is no well.
     Boolean IsSelected(Integer WellNo) const;
 
@@ -250,8 +233,8 @@ class Plate : private PlateState {
 
     // For the host that shows the control.
 
-    void AddObserver(PlateObserver& observer) { events_.Add(observer); }
-    void RemoveObserver(PlateObserver& observer) noexcept { events_.Remove(observer); }
+    void AddObserver(PlateObserver& observer) { site_.AddObserver(observer); }
+    void RemoveObserver(PlateObserver& observer) noexcept { site_.RemoveObserver(observer); }
     /// The plate definition, empty after a failed load; error 91 before the first load.
     const cmPlate& LoadedDefinition() const { return Definition(); }
     /// What is shown, to paint or to mirror.
@@ -305,11 +288,10 @@ class Plate : private PlateState {
     Single ReadSubWell(Single (WellDetails::*field)() const) const;
     void WriteSubWell(void (WellDetails::*field)(Single), Single value);
     static String DefaultLibrary();
-    ControlParts Parts() { return {*this, surface_, focus_, events_, site_}; }
+    ControlParts Parts() { return {*this, surface_, focus_, site_}; }
 
-    HostSite& site_;
+    Notifier site_;
     Surface surface_;
-    PlateEvents events_;
     cmFocus focus_;
 };
 

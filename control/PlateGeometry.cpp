@@ -91,15 +91,17 @@ void Plate::yOffset(Single value) { WriteSubWell(&WellDetails::yOffset, value); 
 Single Plate::InitialVolume() const { return ReadSubWell(&WellDetails::InitialVolume); }
 
 void Plate::InitialVolume(Single value) {
-    if (WellIndex() < 1) return;
-    WriteSubWell(&WellDetails::InitialVolume, value);
-    const Checked perSubWell = Checked(Cols) * Rows;
-    const Integer first = (Checked(WellIndex()) - 1) * perSubWell;
-    const Integer last = Checked(WellIndex()) * perSubWell - 1;
-    const String tag = SingleText(value);
-    for (Long i = first; i <= last; ++i)
-        TagOf(surface_, static_cast<Integer>(i)) = tag;
-    LayoutPlate(Parts(), true);
+    site_.Operate([&] {
+        if (WellIndex() < 1) return;
+        WriteSubWell(&WellDetails::InitialVolume, value);
+        const Checked perSubWell = Checked(Cols) * Rows;
+        const Integer first = (Checked(WellIndex()) - 1) * perSubWell;
+        const Integer last = Checked(WellIndex()) * perSubWell - 1;
+        const String tag = SingleText(value);
+        for (Long i = first; i <= last; ++i)
+            TagOf(surface_, static_cast<Integer>(i)) = tag;
+        LayoutPlate(Parts(), true);
+    });
 }
 
 Single Plate::CurrentWellX() const { return ToSingle(Double{XPitch} * Col() + xOffset()); }

@@ -12,23 +12,26 @@ namespace {
 /// Runs a change of the panel and tells the host of it, also of what a failing one has changed.
 template <class Change>
 void ChangePanel(ControlParts parts, Change change) {
-    const Rect before = parts.surface.fraData.box;
-    try {
+    parts.site.Operate([&] {
+        parts.site.PanelChanged();
+        const Rect before = parts.surface.fraData.box;
+        if (parts.surface.fraData.visible) parts.site.Repaint(before);
         change();
-    } catch (...) {
-        PanelChanged(parts, before);
-        throw;
-    }
-    PanelChanged(parts, before);
+        if (parts.surface.fraData.visible) parts.site.Repaint(parts.surface.fraData.box);
+    });
 }
 
 } // namespace
 
 Boolean Plate::DataVisible() const { return surface_.fraData.visible; }
 
-void Plate::DataVisible(Boolean value) { ShowDataPanel(Parts(), value); }
+void Plate::DataVisible(Boolean value) {
+    site_.Operate([&] { ShowDataPanel(Parts(), value); });
+}
 
-void Plate::DataButtonPressed() { DataVisible(!DataVisible()); }
+void Plate::DataButtonPressed() {
+    site_.Operate([&] { DataVisible(!DataVisible()); });
+}
 
 void Plate::DefaultRimColor(Long value) {
     PlateState::DefaultRimColor = value;
@@ -48,7 +51,9 @@ void Plate::SetDataDisplay(Integer Index) {
     ChangePanel(Parts(), [&] { FillPage(Parts(), Index); });
 }
 
-void Plate::GetDataDisplay(Integer Index) { ReadPage(Parts(), Index); }
+void Plate::GetDataDisplay(Integer Index) {
+    site_.Operate([&] { ReadPage(Parts(), Index); });
+}
 
 void Plate::PageChosen(Integer position) {
     ChangePanel(Parts(), [&] { ChoosePage(Parts(), position); });
@@ -86,9 +91,11 @@ void Plate::ApplyPressed() {
 }
 
 void Plate::MenuPressed() {
-    const Integer chosen = site_.Choose(surface_.panel.mnuPopup);
-    if (chosen >= mnuAddNewSubWell && chosen <= mnuShiftHeight)
-        MenuChosen(static_cast<SubWellCommand>(chosen));
+    site_.Operate([&] {
+        const Integer chosen = site_.Choose(surface_.panel.mnuPopup);
+        if (chosen >= mnuAddNewSubWell && chosen <= mnuShiftHeight)
+            MenuChosen(static_cast<SubWellCommand>(chosen));
+    });
 }
 
 void Plate::MenuChosen(SubWellCommand command) {

@@ -4,34 +4,38 @@
 namespace zorvane {
 
 void Plate::InitialProperties() {
-    FixedSize = saved::kFixedSize.fallback;
-    MultipleSelect = saved::kMultipleSelect.fallback;
-    DrawingScale(saved::kDrawingScale.fallback);
-    FileName = DefaultLibrary();
-    DefaultRimColor(saved::kDefaultRimColor.fallback);
-    DefaultSelectColor = saved::kDefaultSelectColor.fallback;
-    DefaultWellColor(saved::kDefaultWellColor.fallback);
-    DeselectedColor = saved::kDeselectedColor.fallback;
-    SelectedColor = saved::kSelectedColor.fallback;
-    HorizontalCentred = saved::kHorizontalCentred.fallback;
-    VerticalCentred = saved::kVerticalCentred.fallback;
-    PlateName(saved::kPlateName.fallback);
+    site_.Operate([&] {
+        FixedSize = saved::kFixedSize.fallback;
+        MultipleSelect = saved::kMultipleSelect.fallback;
+        DrawingScale(saved::kDrawingScale.fallback);
+        FileName = DefaultLibrary();
+        DefaultRimColor(saved::kDefaultRimColor.fallback);
+        DefaultSelectColor = saved::kDefaultSelectColor.fallback;
+        DefaultWellColor(saved::kDefaultWellColor.fallback);
+        DeselectedColor = saved::kDeselectedColor.fallback;
+        SelectedColor = saved::kSelectedColor.fallback;
+        HorizontalCentred = saved::kHorizontalCentred.fallback;
+        VerticalCentred = saved::kVerticalCentred.fallback;
+        PlateName(saved::kPlateName.fallback);
+    });
 }
 
 // The plate is loaded with every setting but MultipleSelect in place.
 void Plate::RestoreProperties(const PropertyStore& store) {
-    FixedSize = saved::Read(store, saved::kFixedSize);
-    PlateState::DrawingScale = saved::Read(store, saved::kDrawingScale);
-    FileName = saved::Read(store, saved::FileName(DefaultFileName));
-    DefaultRimColor(saved::Read(store, saved::kDefaultRimColor));
-    DefaultSelectColor = saved::Read(store, saved::kDefaultSelectColor);
-    DefaultWellColor(saved::Read(store, saved::kDefaultWellColor));
-    DeselectedColor = saved::Read(store, saved::kDeselectedColor);
-    SelectedColor = saved::Read(store, saved::kSelectedColor);
-    HorizontalCentred = saved::Read(store, saved::kHorizontalCentred);
-    VerticalCentred = saved::Read(store, saved::kVerticalCentred);
-    PlateName(saved::Read(store, saved::kPlateName));
-    MultipleSelect = saved::Read(store, saved::kMultipleSelect);
+    site_.Operate([&] {
+        FixedSize = saved::Read(store, saved::kFixedSize);
+        PlateState::DrawingScale = saved::Read(store, saved::kDrawingScale);
+        FileName = saved::Read(store, saved::FileName(DefaultFileName));
+        DefaultRimColor(saved::Read(store, saved::kDefaultRimColor));
+        DefaultSelectColor = saved::Read(store, saved::kDefaultSelectColor);
+        DefaultWellColor(saved::Read(store, saved::kDefaultWellColor));
+        DeselectedColor = saved::Read(store, saved::kDeselectedColor);
+        SelectedColor = saved::Read(store, saved::kSelectedColor);
+        HorizontalCentred = saved::Read(store, saved::kHorizontalCentred);
+        VerticalCentred = saved::Read(store, saved::kVerticalCentred);
+        PlateName(saved::Read(store, saved::kPlateName));
+        MultipleSelect = saved::Read(store, saved::kMultipleSelect);
+    });
 }
 
 void Plate::SaveProperties(PropertyStore& store) const {

@@ -31,6 +31,12 @@ inline constexpr Integer kShiftKey = 1;
 inline constexpr Integer kCtrlKey = 2;
 inline constexpr Integer kAltKey = 4;
 
+/// The platform's key codes of the keys that move the current well.
+inline constexpr Integer kLeftArrow = 37;
+inline constexpr Integer kUpArrow = 38;
+inline constexpr Integer kRightArrow = 39;
+inline constexpr Integer kDownArrow = 40;
+
 /// A colour is 0x00BBGGRR, or, with the top bit set, the index of a system colour in its low byte,
 /// which whoever paints resolves.
 constexpr Long SystemColor(std::uint32_t index) { return static_cast<Long>(0x80000000U | index); }

@@ -13,11 +13,6 @@ namespace zorvane {
 
 namespace {
 
-constexpr Integer kLeftArrow = 37;
-constexpr Integer kUpArrow = 38;
-constexpr Integer kRightArrow = 39;
-constexpr Integer kDownArrow = 40;
-
 /// Ends the gesture when it goes out of scope, whatever happened in between.
 class GestureEnd {
   public:
@@ -52,6 +47,7 @@ void SetToolTip(ControlParts parts, const String& text) {
 
 /// Outlines every selected well as if the gesture's anchor stood at (x, y); a second time erases.
 void DrawDragOutline(ControlParts parts, Single x, Single y) {
+    parts.site.HandOut();
     const Single dx = x - parts.state.DragAnchorX;
     const Single dy = y - parts.state.DragAnchorY;
     for (Integer i = 0; i < parts.state.TotalWells; ++i) {
@@ -83,6 +79,7 @@ void StretchBand(ControlParts parts, Single x, Single y) {
     const PlateState& state = parts.state;
     const Boolean beyondAnchor = std::abs(x - state.DragAnchorX) >= state.ColumnPitch ||
                                  std::abs(y - state.DragAnchorY) >= state.RowPitch;
+    parts.site.HandOut();
     if (beyondAnchor) parts.focus.DragPosition(x, y);
     parts.focus.RectangleVisible(beyondAnchor);
 }
@@ -125,7 +122,7 @@ void EndDrag(ControlParts parts, Integer button, Integer shift, Single x, Single
     const Integer dy = Checked(rows) * state.RowPitch;
     select.box = before.Moved(dx, dy);
     if (select.visible) RepaintInPlate(parts, Union(before, select.box));
-    parts.events.Raise([&](PlateObserver& host) { host.DragMove(button, shift, columns, rows); });
+    parts.site.Raise([&](PlateObserver& host) { host.DragMove(button, shift, columns, rows); });
 }
 
 } // namespace
@@ -137,7 +134,7 @@ void PressOnPlate(ControlParts parts, Integer button, Integer shift, Single x, S
 
     const Integer wellNo = WellAt(state, parts.surface, x, y);
     if (button != kLeftButton || wellNo < 0) {
-        parts.events.Raise([&](PlateObserver& host) { host.MouseDown(button, shift, x, y); });
+        parts.site.Raise([&](PlateObserver& host) { host.MouseDown(button, shift, x, y); });
         return;
     }
     AnchorGesture(parts, wellNo);
@@ -171,7 +168,7 @@ void ReleaseOnPlate(ControlParts parts, Integer button, Integer shift, Single x,
     } else if (state.Dragging) {
         EndDrag(parts, button, shift, x, y, columns, rows);
     } else if (parts.surface.cmdData.enabled) {
-        parts.events.Raise([&](PlateObserver& host) { host.MouseUp(button, shift, x, y); });
+        parts.site.Raise([&](PlateObserver& host) { host.MouseUp(button, shift, x, y); });
     }
 }
 

@@ -39,17 +39,20 @@ void SetRimFill(ControlParts parts, Integer wellNo, Long color) {
     Shape& rim = RimOf(parts.surface, wellNo);
     rim.fill = color;
     RepaintInPlate(parts, rim.box);
+    parts.site.WellDataChanged(wellNo, wellNo);
 }
 
 void SetBottomFill(ControlParts parts, Integer wellNo, Long color) {
     Shape& bottom = BottomOf(parts.surface, wellNo);
     bottom.fill = color;
     RepaintInPlate(parts, bottom.box);
+    parts.site.WellDataChanged(wellNo, wellNo);
 }
 
 void SetAnnotation(ControlParts parts, Integer wellNo, const String& caption) {
     TextOf(parts.surface, wellNo).caption = caption;
     RepaintInPlate(parts, parts.surface.WellBox(static_cast<std::size_t>(wellNo)));
+    parts.site.WellDataChanged(wellNo, wellNo);
 }
 
 void HideSelectBox(ControlParts parts) {
@@ -62,11 +65,6 @@ void RepaintInPlate(ControlParts parts, const Rect& area) {
     if (!parts.surface.fraPlate.visible) return;
     const Rect& plate = parts.surface.fraPlate.box;
     parts.site.Repaint(area.Moved(plate.left, plate.top));
-}
-
-void RepaintAll(ControlParts parts) {
-    parts.site.Repaint({0, 0, parts.site.Width(), parts.site.Height()});
-    parts.site.PanelChanged();
 }
 
 } // namespace zorvane

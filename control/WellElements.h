@@ -22,7 +22,5 @@ void HideSelectBox(ControlParts parts);
 
 /// Asks the host to paint an area of the plate area again.
 void RepaintInPlate(ControlParts parts, const Rect& area);
-/// The whole control, the panel too, has to be shown anew.
-void RepaintAll(ControlParts parts);
 
 } // namespace zorvane

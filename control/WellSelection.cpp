@@ -41,16 +41,17 @@ Boolean Holds(const Shape& rim, Single x, Single y) {
     return left <= x && x < right && top <= y && y < bottom;
 }
 
-void DeselectAll(ControlParts parts) {
+} // namespace
+
+void ClearSelection(ControlParts parts) {
     for (Integer i = 0; i < parts.state.TotalWells; ++i) {
         if (!parts.state.Wells[i].Selected) continue;
         SetRimFill(parts, i, parts.state.DefaultRimColor);
         parts.state.Wells[i].Selected = false;
+        parts.site.SelectionChanged();
     }
     parts.state.NSelected = 0;
 }
-
-} // namespace
 
 void SetCurrentWell(PlateState& state, Integer wellNo) {
     state.CurrentWell = wellNo;
@@ -99,6 +100,7 @@ String SubWellName(const PlateState& state) {
 
 void SelectOneWell(ControlParts parts, Integer wellNo, Boolean selected) {
     parts.state.Wells[wellNo].Selected = selected;
+    parts.site.SelectionChanged();
     SetRimFill(parts, wellNo,
                selected ? parts.state.DefaultSelectColor : parts.state.DefaultRimColor);
 }
@@ -111,7 +113,7 @@ void SetWell(ControlParts parts, Integer row, Integer col, const String& subWell
     if (position == 0)
         position = EqualNoCase(subWell, kDefaultSubWell) ? Integer{1} : OnePastLastSubWell(state);
 
-    if (action == wsSingle || !state.MultipleSelect) DeselectAll(parts);
+    if (action == wsSingle || !state.MultipleSelect) ClearSelection(parts);
     state.Col = col;
     state.Row = row;
     SetWellIndex(state, position);
@@ -126,13 +128,10 @@ Boolean AddCurrentWellToSelection(ControlParts parts) {
     WellValues& well = parts.state.Wells[parts.state.CurrentWell];
     if (well.Selected) return false;
     well.Selected = true;
+    parts.site.SelectionChanged();
     parts.state.NSelected = Checked(parts.state.NSelected) + 1;
     SetRimFill(parts, parts.state.CurrentWell, parts.state.DefaultSelectColor);
     return true;
-}
-
-Boolean IsWellSelected(const PlateState& state, Integer wellNo) {
-    return wellNo >= 0 && wellNo < state.TotalWells && state.Wells[wellNo].Selected;
 }
 
 Integer WellAt(const PlateState& state, const Surface& surface, Single x, Single y) {
@@ -164,7 +163,8 @@ void MarkControl(ControlParts parts, Boolean selected) {
         parts.site.FocusDataButton();
     for (std::size_t i = 0; i < static_cast<std::size_t>(state.LabelCount); ++i)
         surface.lblWell[i].color = surface.fraPlate.text;
-    RepaintAll(parts);
+    parts.site.RepaintAll();
+    parts.site.DataButtonChanged();
 }
 
 } // namespace zorvane

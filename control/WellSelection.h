@@ -22,12 +22,12 @@ String SubWellName(const PlateState& state);
 
 // The selection. Error 9 or 91 for a well that does not exist.
 
+void ClearSelection(ControlParts parts);
 void SelectOneWell(ControlParts parts, Integer wellNo, Boolean selected);
 void SetWell(ControlParts parts, Integer row, Integer col, const String& subWell,
              WellSelectAction action);
 /// Marks and counts the current well unless it is selected already; tells whether it was not.
 Boolean AddCurrentWellToSelection(ControlParts parts);
-Boolean IsWellSelected(const PlateState& state, Integer wellNo);
 
 /// The well under a point of the plate area, or -1.
 Integer WellAt(const PlateState& state, const Surface& surface, Single x, Single y);

@@ -23,11 +23,11 @@ class Painter {
     Painter(const Surface& surface, const SystemPalette& palette, Canvas& canvas)
         : surface_(surface), palette_(palette), canvas_(canvas), clip_(canvas.Clip()) {}
 
-    void Paint() const {
+    void Paint(DataButton button) const {
         canvas_.FillRectangle(Color(kButtonFace), clip_);
         PaintPlate();
         PaintFrame(surface_.fraData, "details");
-        PaintButton(surface_.cmdData);
+        if (button == DataButton::Painted) PaintButton(surface_.cmdData);
     }
 
   private:
@@ -158,8 +158,9 @@ class Painter {
 
 } // namespace
 
-void PaintControl(const Surface& surface, const SystemPalette& palette, Canvas& canvas) {
-    Painter(surface, palette, canvas).Paint();
+void PaintControl(const Surface& surface, const SystemPalette& palette, Canvas& canvas,
+                  DataButton button) {
+    Painter(surface, palette, canvas).Paint(button);
 }
 
 } // namespace zorvane

@@ -14,6 +14,10 @@ enum class PointerShape : Integer { Standard = 0, MoveArrows = 5, Custom = 99 };
 /// What one control asks of the host that shows it. The site must outlive its control. Lengths are
 /// drawing units (twips) in the control's coordinates. The first six calls are required, the rest
 /// have defaults.
+///
+/// Whatever a call of the control or an input changes, Resize, Repaint, PanelChanged and
+/// DataButtonChanged each come once at its end, in this order, and once more before it raises an
+/// event, asks the operator or draws an outline.
 class HostSite : public InputBox, public PopupMenu {
   public:
     /// What is shown in this area has changed; paint it when convenient. The area lives for the
@@ -37,8 +41,10 @@ class HostSite : public InputBox, public PopupMenu {
     virtual void SetToolTip(const String& /*text*/) {}
     /// The pointer shape of the plate area has changed.
     virtual void SetPointer(PointerShape /*shape*/) {}
-    /// Elements in the details panel have changed. A host that mirrors them takes them over anew.
+    /// Elements in the details panel have changed. A host that mirrors them takes them over again.
     virtual void PanelChanged() {}
+    /// The button that opens the details panel, cmdData, has changed.
+    virtual void DataButtonChanged() {}
 };
 
 } // namespace zorvane

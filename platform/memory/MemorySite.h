@@ -30,6 +30,7 @@ class MemorySite final : public HostSite {
     void SetToolTip(const String& text) override { toolTips.push_back(text); }
     void SetPointer(PointerShape shape) override { pointers.push_back(shape); }
     void PanelChanged() override { ++panelChanges; }
+    void DataButtonChanged() override { ++dataButtonChanges; }
     /// Gives the next of `answers`.
     String Ask(const Question& question) override;
     /// Gives the next of `choices`; a disabled or missing entry cannot be chosen and gives -1.
@@ -47,6 +48,7 @@ class MemorySite final : public HostSite {
     Long focusRequests = 0;
     Long dataButtonFocusRequests = 0;
     Long panelChanges = 0;
+    Long dataButtonChanges = 0;
     /// Outlines on the plate area; as large as the control in the pixels of the present screen.
     InvertingOverlay overlay;
 
