@@ -1,7 +1,6 @@
 #pragma once
 
-#include "Raised.h"
-#include "TestProcess.h"
+#include "Test.h"
 #include "control/Plate.h"
 #include "platform/memory/MemorySite.h"
 #include "runtime/NumberText.h"
@@ -9,44 +8,11 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zorvane {
-
-/// A definition of a grid, in plain numbers: pitch 9 mm, 120 mm by 80 mm. Sub-wells follow as their
-/// own lines.
-inline String GridText(int rows, int cols, const String& subWells, const String& more = {}) {
-    std::ostringstream text;
-    text
-        << "PLATE Demo\r\nROWS " << rows << "\r\nCOLS " << cols
-        << "\r\nROWLABEL A\r\nCOLLABEL 1\r\nXPITCH 9\r\nYPITCH 9\r\nXOVERALL 120\r\nYOVERALL 80\r\n"
-           "HEIGHT 14\r\n"
-        << more << subWells;
-    return text.str();
-}
-
-/// A sub-well 5 mm deep and a rim of 1 mm around it.
-inline String SubWellText(const String& name, Single x, Single y, Single size) {
-    std::ostringstream text;
-    text << "WELL " << name << "\r\nXOFFSET " << x << "\r\nYOFFSET " << y << "\r\nWELLSIZEX "
-         << size << "\r\nWELLSIZEY " << size << "\r\nRIMWIDTH 1\r\nRIMHEIGHT 1\r\nDEPTH 5\r\n";
-    return text.str();
-}
-
-/// One sub-well; at 50 units a millimetre wells are 450 units apart, from (500, 500) on, and their
-/// rims 390 units wide.
-inline String OneDrop(int rows = 8, int cols = 12) {
-    return GridText(rows, cols, SubWellText("Drop1", 10, 10, 6));
-}
-
-/// A large reservoir and, on it, a drop beside its centre; the drop is the first sub-well.
-inline String DropOnReservoir(int rows = 8, int cols = 12) {
-    return GridText(rows, cols,
-                    SubWellText("Drop1", 8, 8, 1) + SubWellText("Reservoir", 10, 10, 6));
-}
 
 /// Hears every event and writes each down as a line.
 class EventLog : public PlateObserver {

@@ -1,19 +1,8 @@
 #pragma once
 
-#include "runtime/Types.h"
-
-#include <initializer_list>
-#include <string_view>
+#include "Test.h"
 
 namespace zorvane {
-
-/// A definition made of lines, each with its CR LF.
-inline String Lines(std::initializer_list<std::string_view> lines) {
-    String text;
-    for (const auto line : lines)
-        text.append(line).append("\r\n");
-    return text;
-}
 
 /// Two plates, the first with every kind of line.
 inline String DemoLibrary() {
