@@ -104,7 +104,7 @@ struct TestProcess : MemoryProcess {
 };
 
 /// A definition made of lines, each with its CR LF.
-inline String Lines(std::initializer_list<std::string_view> lines) {
+inline String DefinitionOf(std::initializer_list<std::string_view> lines) {
     String text;
     for (const auto line : lines)
         text.append(line).append("\r\n");
@@ -114,9 +114,9 @@ inline String Lines(std::initializer_list<std::string_view> lines) {
 /// The definition of a plate of 120 mm by 80 mm with a pitch of 9 mm; then the lines in `more`,
 /// which may set any of this otherwise, and those of the sub-wells.
 inline String GridText(int rows, int cols, const String& subWells, const String& more = {}) {
-    return Lines({"PLATE Demo", "ROWS " + std::to_string(rows), "COLS " + std::to_string(cols),
-                  "ROWLABEL A", "COLLABEL 1", "XPITCH 9", "YPITCH 9", "XOVERALL 120", "YOVERALL 80",
-                  "HEIGHT 14"}) +
+    return DefinitionOf({"PLATE Demo", "ROWS " + std::to_string(rows),
+                         "COLS " + std::to_string(cols), "ROWLABEL A", "COLLABEL 1", "XPITCH 9",
+                         "YPITCH 9", "XOVERALL 120", "YOVERALL 80", "HEIGHT 14"}) +
            more + subWells;
 }
 

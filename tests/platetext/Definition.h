@@ -4,6 +4,8 @@
 
 namespace zorvane {
 
+inline String Lines(std::initializer_list<std::string_view> lines) { return DefinitionOf(lines); }
+
 /// Two plates, the first with every kind of line.
 inline String DemoLibrary() {
     return "; crystallisation plates\r\nPLATE Demo96 ; two-drop vapour-diffusion plate\r\n"
