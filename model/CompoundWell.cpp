@@ -48,6 +48,7 @@ void CompoundWell::Swap(Integer index1, Integer index2) {
     const String key2 = wells_.KeyAt(index2);
     if (index2 <= index1) {
         wells_.Remove(index2);
+        if (index1 == 1) Raise(ErrorNumber::SubscriptOutOfRange); // there is no position before it
         wells_.InsertAfter(index1 - 1, key2, well2);
         wells_.Remove(index1 - 1);
         wells_.InsertAfter(index2 - 1, key1, well1);

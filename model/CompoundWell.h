@@ -33,7 +33,8 @@ class CompoundWell {
     void CopyFrom(const CompoundWell& source);
 
     /// Exchanges two sub-wells, each keeping its key. The positions must differ: equal ones lose
-    /// the sub-well in front of the position and then fail.
+    /// the sub-well before the position and then fail with 457; 1 and 1 lose the first sub-well
+    /// and fail with 9.
     void Swap(Integer index1, Integer index2);
 
     void Clear() { wells_.Clear(); }

@@ -55,7 +55,8 @@ String cmPlate::ColumnLegend(Integer col) const {
 }
 
 String cmPlate::WellLegend(Integer row, Integer col) const {
-    return RowLegend(row) + ColumnLegend(col);
+    const String rowLegend = RowLegend(row);
+    return rowLegend + ColumnLegend(col);
 }
 
 } // namespace zorvane

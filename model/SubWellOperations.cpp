@@ -119,8 +119,7 @@ void cmPlate::RenameSubWell(Integer index, const String& newName) {
 void cmPlate::RenameBlock(const WellDetails& subWell, const String& newName) {
     const Block block(Properties, subWell);
     if (block.at == 0) return;
-    const auto well = Properties.Pair(Long{block.at});
-    if (!EqualNoCase(well->Value(), newName)) well->Value(newName);
+    Properties.Pair(Long{block.at})->Value(newName);
     const String prefix = newName + ".";
     Integer at = block.at;
     for (Integer left = block.length; left > 0 && InBlock(Properties, at, block.prefix); --left) {

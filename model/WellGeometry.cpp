@@ -53,12 +53,12 @@ void cmPlate::ShiftWells(Single dX, Single dY, Single dZ) {
 }
 
 void cmPlate::Rotate90() {
-    const Integer oldRows = rows_;
+    const Integer oldCols = cols_;
     const Single oldXOverall = xOverall_;
     const Single oldXPitch = xPitch_;
     const String oldColumnLabel = columnLabel_;
-    Rows(cols_);
-    Cols(oldRows);
+    Cols(rows_);
+    Rows(oldCols);
     xOverall(yOverall_);
     yOverall(oldXOverall);
     XPitch(yPitch_);
@@ -73,8 +73,8 @@ void cmPlate::Rotate90(const WellDetails& well) {
     // The setters change the sub-well while it is being read.
     WellDetails old;
     old.Copy(well);
-    const Double lastRow = (Checked(rows_) - 1).Value();
     SubWell(old.WellName());
+    const Double lastRow = (Checked(rows_) - 1).Value();
     xOffset(old.yOffset());
     yOffset(ToSingle(Double{yOverall_} - old.xOffset() - lastRow * yPitch_));
     RimHeight(old.RimWidth());

@@ -85,8 +85,6 @@ void Rename(cmPlate& plate, const String& from, const String& to) {
     const Integer position = Find(plate, from);
     if (!EqualNoCase(from, to)) CheckNewName(plate, to);
     plate.RenameSubWell(position, to);
-    // A name that differs in letter case alone would be left as it is there.
-    plate.SetProperty(to + ".Well", to);
 }
 
 void Swap(cmPlate& plate, const String& one, const String& other) {

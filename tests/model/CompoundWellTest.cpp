@@ -74,7 +74,7 @@ TEST(CompoundWell, SwapsDifferentPositionsOnly) {
     swaps(4, 3, 0, "ABDC");
     swaps(4, 1, 0, "DBCA");
     swaps(2, 2, 457, "BCD");
-    swaps(1, 1, 9, "ABCD");
+    swaps(1, 1, 9, "BCD");
     swaps(1, 5, 9, "ABCD");
 }
 

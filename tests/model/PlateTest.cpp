@@ -109,6 +109,9 @@ TEST(Plate, LabelsPositions) {
     EXPECT_EQ(NumberRaisedBy([&] { plate.RowLegend(191); }), 5);
     EXPECT_EQ(NumberRaisedBy([&] { plate.RowLegend(-66); }), 5);
     EXPECT_EQ(NumberRaisedBy([&] { plate.RowLegend(32767); }), 6);
+    plate.ColumnLabel("A");
+    EXPECT_EQ(NumberRaisedBy([&] { plate.WellLegend(191, 32767); }), 5) << "the row comes first";
+    EXPECT_EQ(NumberRaisedBy([&] { plate.WellLegend(32767, 191); }), 6) << "the row comes first";
 }
 
 TEST(Plate, CopiesThroughItsText) {

@@ -51,6 +51,16 @@ TEST(WellGeometry, TurnsByAQuarter) {
     EXPECT_EQ(plate.ColumnLabel() + plate.RowLabel(), "12H");
 }
 
+TEST(WellGeometry, TurnsStepByStep) {
+    cmPlate recorded = Read("PLATE P\r\nWELL A");
+    recorded.Rotate90();
+    const String text = recorded.Text();
+    EXPECT_LT(text.find("COLS 0"), text.find("ROWS 0")) << text;
+    cmPlate plate = Read("PLATE P\r\nCOLS -32768\r\nWELL A");
+    EXPECT_EQ(NumberRaisedBy([&] { plate.Rotate90(); }), 6) << "there is no row before the first";
+    EXPECT_EQ(plate.SubWell(), "A") << "made current first";
+}
+
 TEST(WellGeometry, FindsEnvelopesAndCentroids) {
     const auto finds = [](const String& subWells, const char* envelope, const char* centroid) {
         const cmPlate plate = Read("PLATE P\r\nXPITCH 9\r\nYPITCH 9\r\n" + subWells);
