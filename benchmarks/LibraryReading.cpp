@@ -1,5 +1,5 @@
 #include "model/cmPlate.h"
-#include "platetext/PlateFunctions.h"
+#include "runtime/TextFunctions.h"
 
 #include <benchmark/benchmark.h>
 

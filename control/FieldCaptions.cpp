@@ -1,6 +1,6 @@
 #include "control/FieldCaptions.h"
 
-#include "platetext/PlateFunctions.h"
+#include "runtime/TextFunctions.h"
 #include "support/TStringPairList.h"
 
 #include <memory>

@@ -2,9 +2,9 @@
 
 #include "control/DataPanel.h"
 #include "control/Layout.h"
-#include "platetext/PlateFunctions.h"
 #include "runtime/Checked.h"
 #include "runtime/NumberText.h"
+#include "runtime/TextFunctions.h"
 
 #include <memory>
 #include <utility>

@@ -15,7 +15,7 @@ class WellDetails {
     const String& WellName() const { return wellName_; }
     void WellName(std::string_view value) { wellName_ = value; }
 
-    /// The style code that the sub-well is drawn with; see cmPlate::StyleText.
+    /// The style code that the sub-well is drawn with; see WellStyle.h.
     Long Style() const { return style_; }
     void Style(Long value) { style_ = value; }
 

@@ -1,11 +1,11 @@
 #include "platecheck/ArgumentCheck.h"
 
-#include "platetext/PlateFunctions.h"
-#include "platetext/StyleNames.h"
+#include "model/WellStyle.h"
 #include "runtime/NumberText.h"
 #include "runtime/Rounding.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Text.h"
+#include "runtime/TextFunctions.h"
 
 #include <algorithm>
 #include <array>
@@ -123,10 +123,7 @@ class Check {
     }
 
     void Style() const {
-        const auto named = [this](std::string_view name) {
-            return EqualNoCase(name, parts_.first);
-        };
-        if (std::any_of(kStyleNames.begin(), kStyleNames.end(), named)) return;
+        if (WellStyleCode(parts_.first)) return;
         findings_.Error(line_, parts_.first,
                         "no style is named \"" + Shown(parts_.first) +
                             "\": the line is ignored; ROUND, CCSHELF, PILLAR and SQUARE are known");

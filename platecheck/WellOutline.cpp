@@ -1,15 +1,13 @@
 #include "platecheck/WellOutline.h"
 
+#include "model/WellStyle.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace zorvane {
 
 namespace {
-
-// Style codes whose bottom is round, and those whose rim is.
-constexpr bool HasRoundBottom(Long style) { return style == 0 || style == 1; }
-constexpr bool HasRoundRim(Long style) { return style == 0 || style == 2; }
 
 WellOutline Outline(const WellDetails& subWell, Double rimX, Double rimY, bool round) {
     return {Double{subWell.xOffset()} + subWell.RimCenterX(),
@@ -28,11 +26,13 @@ Double DepthIntoRectangle(const WellOutline& circle, const WellOutline& rectangl
 } // namespace
 
 WellOutline BottomOutline(const WellDetails& subWell) {
-    return Outline(subWell, 0, 0, HasRoundBottom(subWell.Style()));
+    const WellStyle* const style = FindWellStyle(subWell.Style());
+    return Outline(subWell, 0, 0, style && style->roundBottom);
 }
 
 WellOutline RimOutline(const WellDetails& subWell) {
-    return Outline(subWell, subWell.RimWidth(), subWell.RimHeight(), HasRoundRim(subWell.Style()));
+    const WellStyle* const style = FindWellStyle(subWell.Style());
+    return Outline(subWell, subWell.RimWidth(), subWell.RimHeight(), style && style->roundRim);
 }
 
 Double OverlapDepth(const WellOutline& a, const WellOutline& b) {

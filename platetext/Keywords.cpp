@@ -1,11 +1,10 @@
+#include "model/WellStyle.h"
 #include "platetext/LineReader.h"
-#include "platetext/PlateFunctions.h"
-#include "platetext/StyleNames.h"
 #include "runtime/NumberText.h"
 #include "runtime/Text.h"
+#include "runtime/TextFunctions.h"
 #include "support/TStringPair.h"
 
-#include <algorithm>
 #include <array>
 #include <iterator>
 
@@ -150,10 +149,7 @@ void cmPlate::LineReader::ReadWell() {
 
 void cmPlate::LineReader::ReadStyle() {
     WellDetails& subWell = SubWell();
-    const auto known =
-        std::find_if(kStyleNames.begin(), kStyleNames.end(),
-                     [this](std::string_view name) { return EqualNoCase(name, firstArgument_); });
-    if (known != kStyleNames.end()) subWell.Style(static_cast<Long>(known - kStyleNames.begin()));
+    if (const auto code = WellStyleCode(firstArgument_)) subWell.Style(*code);
 }
 
 void cmPlate::LineReader::ReadRimWidth() {

@@ -2,9 +2,9 @@
 
 #include "model/cmPlate.h"
 #include "platetext/LineCode.h"
-#include "platetext/PlateFunctions.h"
 #include "runtime/Text.h"
 #include "runtime/TextFile.h"
+#include "runtime/TextFunctions.h"
 
 #include <string_view>
 #include <unordered_set>

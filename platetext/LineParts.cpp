@@ -1,7 +1,7 @@
 #include "platetext/LineParts.h"
 
-#include "platetext/PlateFunctions.h"
 #include "runtime/Text.h"
+#include "runtime/TextFunctions.h"
 
 namespace zorvane {
 

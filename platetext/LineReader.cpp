@@ -1,9 +1,9 @@
 #include "platetext/LineReader.h"
 
-#include "platetext/PlateFunctions.h"
 #include "runtime/NumberText.h"
 #include "runtime/Rounding.h"
 #include "runtime/Text.h"
+#include "runtime/TextFunctions.h"
 #include "support/TStringPair.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
+#include "model/WellStyle.h"
 #include "model/cmPlate.h"
-#include "platetext/StyleNames.h"
 #include "runtime/NumberText.h"
 #include "runtime/Text.h"
 #include "support/TStringPair.h"
@@ -107,8 +107,8 @@ Integer cmPlate::WritePlate(TextFile& file) const {
 }
 
 String cmPlate::StyleText(Long style) {
-    if (style < 0 || style >= static_cast<Long>(kStyleNames.size())) return {};
-    return String(kStyleNames[static_cast<std::size_t>(style)]);
+    const WellStyle* const found = FindWellStyle(style);
+    return found ? String(found->name) : String();
 }
 
 } // namespace zorvane

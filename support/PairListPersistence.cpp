@@ -1,6 +1,6 @@
-#include "platetext/PlateFunctions.h"
 #include "runtime/NumberText.h"
 #include "runtime/Rounding.h"
+#include "runtime/TextFunctions.h"
 #include "support/RegistryFunctions.h"
 #include "support/TStringPairList.h"
 #include "support/XMLFile.h"

@@ -1,7 +1,8 @@
 #include "support/TStringPairList.h"
 
-#include "platetext/PlateFunctions.h"
+#include "platform/ShowError.h"
 #include "runtime/Checked.h"
+#include "runtime/TextFunctions.h"
 
 namespace zorvane {
 

@@ -1,6 +1,6 @@
-#include "platetext/PlateFunctions.h"
 #include "runtime/Checked.h"
 #include "runtime/NumberText.h"
+#include "runtime/TextFunctions.h"
 #include "support/XMLFile.h"
 
 #include <algorithm>

@@ -1,6 +1,5 @@
 #include "apps/viewer/logic/PlateChoice.h"
 
-#include "platetext/PlateFunctions.h"
 #include "runtime/Text.h"
 
 #include <algorithm>

@@ -1,7 +1,4 @@
-#include "platetext/PlateFunctions.h"
-
-#include "platform/Process.h"
-#include "runtime/Text.h"
+#include "runtime/TextFunctions.h"
 
 #include <algorithm>
 
@@ -57,12 +54,6 @@ String Capitalize(std::string_view s) {
     String result = LowerText(s);
     if (!result.empty()) result[0] = ToUpperAscii(result[0]);
     return result;
-}
-
-void ShowError(const RuntimeError& error, std::string_view where) {
-    CurrentProcess().Messages().Show(
-        {"Error number " + std::to_string(error.Number()) + "\r\n" + error.Description(),
-         "Error in " + error.Source() + "." + String(where)});
 }
 
 } // namespace zorvane

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "runtime/Text.h"
+#include "runtime/Types.h"
+
+#include <cstddef>
+#include <string_view>
+
+/// Taking texts apart and putting them in quotes. A blank is a space, TAB, CR or LF.
+namespace zorvane {
+
+/// The text with every TAB, LF and CR replaced by a space.
+String BlankControlChars(std::string_view s);
+
+/// The text without the blanks at its start, at its end, or at both.
+String TrimLeadingBlanks(std::string_view s);
+String TrimTrailingBlanks(std::string_view s);
+String TrimBlanks(std::string_view s);
+
+/// Takes the next word off the text: skips leading blanks and gives what stands before the first
+/// space or TAB. The text keeps the rest from that delimiter on; without one it becomes empty.
+String NextWord(String& s);
+/// NextWord in upper case.
+String NextWordUpper(String& s);
+/// NextWord on a view, for readers that store few of the words they take.
+constexpr std::string_view NextWord(std::string_view& s) {
+    s = TrimStart(s);
+    std::size_t end = 0;
+    while (end < s.size() && s[end] != ' ' && s[end] != '\t')
+        ++end;
+    const std::string_view word = s.substr(0, end);
+    s.remove_prefix(end);
+    return word;
+}
+
+/// The text between a pair of marks. An opening bracket ( < [ { is closed by its counterpart;
+/// any other mark stands on both sides and is doubled inside.
+String QuoteText(std::string_view s, std::string_view q);
+
+/// The first letter in upper case, the others in lower case.
+String Capitalize(std::string_view s);
+
+} // namespace zorvane
