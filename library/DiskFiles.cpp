@@ -1,12 +1,18 @@
 #include "library/DiskFiles.h"
 
+#include "library/FileRights.h"
+
 #include <array>
 #include <cerrno>
-#include <cstdlib>
+#include <chrono>
+#include <filesystem>
+#include <random>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -56,6 +62,10 @@ String ReasonOf(int error) {
     throw RuntimeError(static_cast<Long>(NumberOf(error)), "Zorvane", ReasonOf(error));
 }
 
+[[noreturn]] void RaiseNoAccess(const String& reason) {
+    throw RuntimeError(static_cast<Long>(ErrorNumber::PathFileAccess), "Zorvane", reason);
+}
+
 /// Raises the error of a call that failed.
 void Check(bool good) {
     if (!good) RaiseError(errno);
@@ -84,17 +94,32 @@ String FolderOf(const String& path) {
     return path.substr(0, slash == 0 ? 1 : slash);
 }
 
+/// The number of an open folder, that of a file.
+int OpenFolderOf(const String& path) {
+    return ::open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
+
 struct stat StatusOf(const String& path) {
     struct stat status = {};
     Check(::stat(path.c_str(), &status) == 0);
     return status;
 }
 
+String RandomLetters() {
+    constexpr const char* letters = "abcdefghijklmnopqrstuvwxyz";
+    std::random_device random;
+    std::uniform_int_distribution<std::size_t> place(0, 25);
+    String text;
+    while (text.size() < 6)
+        text += letters[place(random)];
+    return text;
+}
+
 class DiskOutput final : public FileLayer::Output {
   public:
-    /// The pattern ends in XXXXXX, which become the letters that make the name a new one.
-    explicit DiskOutput(String pattern)
-        : path_(std::move(pattern)), file_(::mkostemp(path_.data(), O_CLOEXEC)) {}
+    DiskOutput(const String& path, mode_t mode)
+        : path_(path), file_(::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode)) {
+    }
 
     const String& Path() const override { return path_; }
 
@@ -110,13 +135,7 @@ class DiskOutput final : public FileLayer::Output {
     void Flush() override { Check(::fsync(file_.Number()) == 0); }
     void Close() override { file_.Close(); }
 
-    void TakeRightsOf(const struct stat& other) {
-        // Only a privileged program can give a file to another owner; the group alone may do.
-        const bool given = ::fchown(file_.Number(), other.st_uid, other.st_gid) == 0 ||
-                           ::fchown(file_.Number(), static_cast<uid_t>(-1), other.st_gid) == 0;
-        const mode_t rights = given ? 07777 : 00777;
-        Check(::fchmod(file_.Number(), other.st_mode & rights) == 0);
-    }
+    void TakeRightsOf(const String& other) { Check(CopyRights(other, file_.Number())); }
 
   private:
     String path_;
@@ -126,19 +145,32 @@ class DiskOutput final : public FileLayer::Output {
 } // namespace
 
 String DiskFiles::Resolved(const String& path) {
-    const std::unique_ptr<char, void (*)(void*)> real(::realpath(path.c_str(), nullptr),
-                                                      &std::free);
-    Check(real != nullptr);
-    return real.get();
+    namespace fs = std::filesystem;
+    constexpr int mostLinks = 40;
+    try {
+        fs::path file = path;
+        for (int links = 0; links < mostLinks && fs::is_symlink(file); ++links)
+            file = file.parent_path() / fs::read_symlink(file);
+        return fs::canonical(FolderOf(file.string())) / file.filename();
+    } catch (const fs::filesystem_error& error) {
+        RaiseError(error.code().value());
+    }
+}
+
+bool DiskFiles::Exists(const String& path) {
+    struct stat status = {};
+    const bool found = ::stat(path.c_str(), &status) == 0;
+    Check(found || errno == ENOENT);
+    return found;
 }
 
 void DiskFiles::CheckWritable(const String& path) {
     constexpr mode_t anyWriter = S_IWUSR | S_IWGRP | S_IWOTH;
+    const mode_t mode = StatusOf(path).st_mode;
+    if (S_ISDIR(mode)) RaiseError(EISDIR);
+    if (!S_ISREG(mode)) RaiseNoAccess("it is not an ordinary file");
     // A privileged program may write to any file, but a file marked read-only is meant to stay.
-    if ((StatusOf(path).st_mode & anyWriter) == 0) {
-        throw RuntimeError(static_cast<Long>(ErrorNumber::PathFileAccess), "Zorvane",
-                           "it is read-only");
-    }
+    if ((mode & anyWriter) == 0) RaiseNoAccess("it is read-only");
     Check(::access(path.c_str(), W_OK) == 0);
 }
 
@@ -156,10 +188,13 @@ String DiskFiles::Read(const String& path) {
 }
 
 std::unique_ptr<FileLayer::Output> DiskFiles::CreateBeside(const String& path) {
-    const struct stat status = StatusOf(path);
-    auto output = std::make_unique<DiskOutput>(path + ".XXXXXX");
+    constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
+    constexpr mode_t newFile = ownerOnly | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+    const bool exists = Exists(path);
+    auto output =
+        std::make_unique<DiskOutput>(path + "." + RandomLetters(), exists ? ownerOnly : newFile);
     try {
-        output->TakeRightsOf(status);
+        if (exists) output->TakeRightsOf(path);
     } catch (const RuntimeError&) {
         ::unlink(output->Path().c_str());
         throw;
@@ -173,8 +208,21 @@ void DiskFiles::Rename(const String& from, const String& to) {
 
 void DiskFiles::Remove(const String& path) { Check(::unlink(path.c_str()) == 0); }
 
+std::shared_ptr<void> DiskFiles::LockFolder(const String& path) {
+    using namespace std::chrono_literals;
+    auto folder = std::make_shared<Descriptor>(OpenFolderOf(path));
+    const auto latest = std::chrono::steady_clock::now() + 10s;
+    while (::flock(folder->Number(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EWOULDBLOCK) break; // Not every file system has locks.
+        if (std::chrono::steady_clock::now() > latest)
+            RaiseNoAccess("another program does not finish saving in this folder");
+        std::this_thread::sleep_for(5ms);
+    }
+    return folder;
+}
+
 void DiskFiles::SyncFolder(const String& path) {
-    const Descriptor folder(::open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Descriptor folder(OpenFolderOf(path));
     Check(::fsync(folder.Number()) == 0);
 }
 

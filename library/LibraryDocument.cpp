@@ -1,6 +1,6 @@
 #include "library/LibraryDocument.h"
 
-#include "library/SafeSave.h"
+#include "library/ReplaceFile.h"
 
 namespace zorvane {
 
@@ -31,7 +31,7 @@ bool LibraryDocument::ChangedOnDisk() const {
 void LibraryDocument::Reload() { text_ = ReadLibrary(files_, path_); }
 
 void LibraryDocument::Save(const LibraryText& text) {
-    SafeSave(files_, path_, text_.Bytes(), text.Bytes());
+    ReplaceFile(files_, path_, text.Bytes(), text_.Bytes());
     text_ = text;
 }
 

@@ -18,7 +18,7 @@ bool Check(const String& library) {
     String report;
     for (const Finding& finding : findings)
         report += FindingText(finding);
-    WriteAll({}, report);
+    Print(report);
     return std::none_of(findings.begin(), findings.end(),
                         [](const Finding& finding) { return finding.severity == Severity::Error; });
 }

@@ -5,6 +5,7 @@
 #include "welldata/WellNames.h"
 
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -82,7 +83,7 @@ class Drawing {
             plate_.SelectWell(WellNamed(names, name), true);
         std::optional<ShownWellData> data;
         if (!options_.data.empty()) {
-            const String csv = ReadAll(options_.data);
+            const String csv = ReadFile(options_.data);
             data.emplace(WithFile(options_.data, [&] { return ShownWellData(plate_, csv); }));
         }
         const ShownWellData* const shown = data ? &*data : nullptr;
@@ -115,7 +116,18 @@ class Drawing {
     Plate plate_{site_};
 };
 
+/// The picture must not take the place of what it is drawn from.
+void CheckOutput(const Options& options) {
+    std::error_code ignored;
+    for (const String& input : {options.plateLibrary, options.data}) {
+        if (std::filesystem::equivalent(options.output, input, ignored) &&
+            std::filesystem::is_regular_file(input, ignored))
+            Fail(options.output + ": the picture would take the place of what it is drawn from");
+    }
+}
+
 ExitCode Run(const Options& options) {
+    CheckOutput(options);
     Drawing drawing(options);
     try {
         if (!drawing.Load()) return kFailed;
@@ -124,7 +136,7 @@ ExitCode Run(const Options& options) {
         Fail(options.plate +
              " is too large to be drawn: choose a smaller scale, or check the library");
     }
-    WriteAll(options.output, drawing.Picture());
+    WriteFile(options.output, drawing.Picture());
     return kDone;
 }
 

@@ -97,9 +97,9 @@ ExitCode Run(const CLI::App& parser, const Options& options) {
     });
     if (options.inPlace && changed.Bytes() != before) document.Save(changed);
     if (options.difference) {
-        WriteAll({}, UnifiedDifference(before, changed.Bytes(), options.plateLibrary));
+        Print(UnifiedDifference(before, changed.Bytes(), options.plateLibrary));
     } else if (!options.inPlace) {
-        WriteAll({}, definition);
+        Print(definition);
     }
     return kDone;
 }

@@ -3,7 +3,6 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Types.h"
 
-#include <functional>
 #include <string_view>
 #include <utility>
 
@@ -22,15 +21,14 @@ auto WithFile(const String& file, Action&& action) {
     }
 }
 
-/// Writes to a file, or to standard output where the name is empty or "-". Bytes go out as they
-/// are.
-void WriteAll(const String& file, std::string_view text);
+/// Writes bytes to standard output as they are.
+void Print(std::string_view text);
 
-/// Replaces a file by what `write` puts into the temporary file beside it that it is given the name
-/// of: at any moment the file is the old one or the new one. With a failure it stays the old one.
-void ReplaceFile(const String& file, const std::function<void(const String& temporary)>& write);
+/// Puts bytes in place of a file as ReplaceFile does, or writes them to a device or pipe; to
+/// standard output where the name is empty or "-".
+void WriteFile(const String& file, std::string_view bytes);
 
 /// Everything in a file; "-" is standard input.
-String ReadAll(const String& file);
+String ReadFile(const String& file);
 
 } // namespace zorvane

@@ -30,7 +30,7 @@ Table TableOf(const LibraryListing& listing) {
 ExitCode Run(const Options& options) {
     const LibraryListing listing =
         WithFile(options.plateLibrary, [&] { return ListLibrary(options.plateLibrary); });
-    WriteAll({}, TableText(TableOf(listing), options.form));
+    Print(TableText(TableOf(listing), options.form));
     if (listing.code == 0) return kDone;
     std::cerr << "plate: " << PrintableUtf8(options.plateLibrary)
               << ": the search for a plate ends at line " << listing.stoppedAtLine

@@ -54,15 +54,16 @@ ExitCode Run(const Options& options) {
     const std::optional<RegistryPath> to = PathOf(options.toRegistry);
     const bool adds = from || !options.set.empty();
     const bool changes = adds || !options.remove.empty();
+    SavedPairs saved(options.file);
     TStringPairList list;
     std::error_code ignored;
     if (!adds || std::filesystem::exists(options.file, ignored))
-        ReadPairs(list, options.file, changes ? FileContent::NothingElse : FileContent::Any);
+        saved.Read(list, changes ? FileContent::NothingElse : FileContent::Any);
     if (from) AddPairs(list, *from);
     Change(list, options);
-    if (changes) SavePairs(list, options.file);
+    if (changes) saved.Save(list);
     if (to) StorePairs(list, *to);
-    WriteAll({}, TableText(TableOf(list), options.form));
+    Print(TableText(TableOf(list), options.form));
     return kDone;
 }
 

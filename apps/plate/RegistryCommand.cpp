@@ -85,7 +85,7 @@ ExitCode Get(const Options& options) {
     Check(registry.QueryValue(key.Handle(), options.name, std::numeric_limits<Long>::max(),
                               value.type, value.data),
           registry, path, options.name);
-    WriteAll({}, DataText(value) + "\n");
+    Print(DataText(value) + "\n");
     return kDone;
 }
 
@@ -119,7 +119,7 @@ ExitCode List(const Options& options) {
         for (const StoredValue& value : ValuesOf(registry, ParseRegistryPath(options.key)))
             table.rows.push_back({value.name, TypeText(value.type), DataText(value)});
     }
-    WriteAll({}, TableText(table, options.form));
+    Print(TableText(table, options.form));
     return kDone;
 }
 
@@ -140,7 +140,7 @@ ExitCode Export(const Options& options) {
                 ExportText(RegistryPathText(path), ValuesOf(registry, path));
     }
     if (text.empty() && start) Check(kRegistryNotFound, registry, *start);
-    WriteAll({}, text);
+    Print(text);
     return kDone;
 }
 

@@ -1,9 +1,13 @@
 #include "apps/plate/SavedPairs.h"
 
 #include "apps/plate/Files.h"
+#include "library/DiskFiles.h"
+#include "library/ReplaceFile.h"
 #include "runtime/Text.h"
 #include "support/XMLFile.h"
 
+#include <cstdlib>
+#include <filesystem>
 #include <iostream>
 
 namespace zorvane {
@@ -41,8 +45,8 @@ bool IsAtEnd(XMLFile& x) {
     return false;
 }
 
-/// Whether the file holds nothing else.
-bool ReadFile(TStringPairList& list, const String& file) {
+/// Returns whether the file holds nothing else.
+bool ReadList(TStringPairList& list, const String& file) {
     XMLFile x;
     x.FileName(file);
     const bool begins = EqualNoCase(x.ReadXMLSectionHeader(), "PairList");
@@ -50,11 +54,13 @@ bool ReadFile(TStringPairList& list, const String& file) {
     return begins && IsAtEnd(x);
 }
 
-void WriteFile(const TStringPairList& list, const String& file) {
-    XMLFile x;
-    x.FileName(file);
-    list.WriteToXML(x);
-    x.CloseXMLFile();
+/// Empty where there is no such file: reading the list from it says why.
+String BytesOf(const String& file) {
+    try {
+        return DiskFiles().Read(file);
+    } catch (const RuntimeError&) {
+        return {};
+    }
 }
 
 void WarnOfLosses(const TStringPairList& list, const TStringPairList& kept) {
@@ -67,40 +73,66 @@ void WarnOfLosses(const TStringPairList& list, const TStringPairList& kept) {
     }
 }
 
+/// A folder that only this process can look into, and that goes away with this object.
+class PrivateFolder {
+  public:
+    PrivateFolder() {
+        if (!::mkdtemp(path_.data())) Fail(path_ + ": cannot be created");
+    }
+    ~PrivateFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    PrivateFolder(const PrivateFolder&) = delete;
+    PrivateFolder& operator=(const PrivateFolder&) = delete;
+
+    const String& Path() const { return path_; }
+
+  private:
+    String path_ = std::filesystem::temp_directory_path() / "plate-XXXXXX";
+};
+
 /// Reads what was written before it takes the place of anything.
 void CheckWritten(const TStringPairList& list, const String& written, const String& file) {
     TStringPairList kept;
     try {
-        ReadFile(kept, written);
+        ReadList(kept, written);
     } catch (const RuntimeError&) {
         Fail(file + ": not changed: a name with a \">\" or a line break in it cannot be saved");
     }
     WarnOfLosses(list, kept);
 }
 
+/// The bytes of a file with the list.
+String Written(const TStringPairList& list, const String& file) {
+    const PrivateFolder folder;
+    XMLFile x;
+    x.FileName(folder.Path() + "/list.xml");
+    list.WriteToXML(x);
+    x.CloseXMLFile();
+    CheckWritten(list, x.FileName(), file);
+    return ReadFile(x.FileName());
+}
+
 } // namespace
 
-void ReadPairs(TStringPairList& list, const String& file, FileContent content) {
+void SavedPairs::Read(TStringPairList& list, FileContent content) {
     bool nothingElse = true;
     try {
-        nothingElse = ReadFile(list, file);
+        // First, so that a change in between shows when the file is saved.
+        if (content == FileContent::NothingElse) bytes_ = BytesOf(file_);
+        nothingElse = ReadList(list, file_);
     } catch (const RuntimeError& error) {
-        Fail(WordsFor(error, file));
+        Fail(WordsFor(error, file_));
     }
     if (!nothingElse && content == FileContent::NothingElse)
-        Fail(file + ": holds more than a list of pairs, and is not changed");
+        Fail(file_ + ": holds more than a list of pairs, and is not changed");
     list.Name = Unquoted(list.Name);
 }
 
-void SavePairs(const TStringPairList& list, const String& file) {
-    ReplaceFile(file, [&](const String& temporary) {
-        try {
-            WriteFile(list, temporary);
-        } catch (const RuntimeError&) {
-            Fail(file + ": cannot be written");
-        }
-        CheckWritten(list, temporary, file);
-    });
+void SavedPairs::Save(const TStringPairList& list) const {
+    DiskFiles files;
+    ReplaceFile(files, file_, Written(list, file_), bytes_);
 }
 
 bool Holds(const TStringPairList& list, const TStringPair& pair) {

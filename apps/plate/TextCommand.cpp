@@ -31,7 +31,7 @@ std::unique_ptr<cmPlate> ReadAlone(const String& library, const String& name) {
 ExitCode Run(const Options& options) {
     const auto plate = WithFile(options.plateLibrary,
                                 [&] { return ReadAlone(options.plateLibrary, options.plate); });
-    WriteAll({}, options.fields ? plate->AsText() : plate->Text());
+    Print(options.fields ? plate->AsText() : plate->Text());
     return kDone;
 }
 

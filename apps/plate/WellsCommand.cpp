@@ -44,7 +44,7 @@ ExitCode Run(const Options& options) {
     cmPlate plate;
     if (!plate.SetPlate(options.plateLibrary, options.plate)) return kFailed;
     const Table table = WithFile(options.plate, [&] { return TableOf(plate); });
-    WriteAll({}, TableText(table, options.form));
+    Print(TableText(table, options.form));
     return kDone;
 }
 

@@ -2,7 +2,7 @@
 
 #include "apps/viewer/DifferencePanel.h"
 #include "apps/viewer/PlateSession.h"
-#include "library/SafeSave.h"
+#include "library/ReplaceFile.h"
 
 #include <utility>
 

@@ -7,43 +7,31 @@
 
 namespace zorvane {
 
-/// The machine's files, of whose calls one fails: the one of a given number, from 0. A write that
-/// fails has written half of its bytes.
+/// The machine's files on a disk that is full from one step on, counted from 0. A write that fails
+/// has written half of its bytes. Temporary files can still be removed.
 class FailingFiles final : public FileLayer {
   public:
-    static constexpr int kNone = -1;
+    explicit FailingFiles(int failing = -1) : failing_(failing) {}
 
-    explicit FailingFiles(int failing = kNone) : failing_(failing) {}
+    /// Runs before a file is read.
+    std::function<void()> onRead = [] {};
 
-    int Calls() const { return calls_; }
-    /// Runs in front of each call.
-    std::function<void(int call)> onCall = [](int) {};
-
-    String Resolved(const String& path) override {
-        Count();
-        return disk_.Resolved(path);
-    }
-    void CheckWritable(const String& path) override {
-        Count();
-        disk_.CheckWritable(path);
-    }
+    String Resolved(const String& path) override { return Step().Resolved(path); }
+    bool Exists(const String& path) override { return Step().Exists(path); }
+    void CheckWritable(const String& path) override { Step().CheckWritable(path); }
     String Read(const String& path) override {
-        Count();
-        return disk_.Read(path);
+        onRead();
+        return Step().Read(path);
     }
     std::unique_ptr<Output> CreateBeside(const String& path) override {
-        Count();
-        return std::make_unique<FailingOutput>(*this, disk_.CreateBeside(path));
+        return std::make_unique<FailingOutput>(*this, Step().CreateBeside(path));
     }
-    void Rename(const String& from, const String& to) override {
-        Count();
-        disk_.Rename(from, to);
-    }
+    void Rename(const String& from, const String& to) override { Step().Rename(from, to); }
     void Remove(const String& path) override { disk_.Remove(path); }
-    void SyncFolder(const String& path) override {
-        Count();
-        disk_.SyncFolder(path);
+    std::shared_ptr<void> LockFolder(const String& path) override {
+        return Step().LockFolder(path);
     }
+    void SyncFolder(const String& path) override { Step().SyncFolder(path); }
 
   private:
     class FailingOutput final : public Output {
@@ -54,31 +42,25 @@ class FailingFiles final : public FileLayer {
         const String& Path() const override { return output_->Path(); }
         void Write(std::string_view bytes) override {
             output_->Write(bytes.substr(0, bytes.size() / 2));
-            files_.Count();
+            files_.Step();
             output_->Write(bytes.substr(bytes.size() / 2));
         }
-        void Flush() override {
-            files_.Count();
-            output_->Flush();
-        }
-        void Close() override {
-            files_.Count();
-            output_->Close();
-        }
+        void Flush() override { files_.Step(), output_->Flush(); }
+        void Close() override { files_.Step(), output_->Close(); }
 
       private:
         FailingFiles& files_;
         std::unique_ptr<Output> output_;
     };
 
-    void Count() {
-        onCall(calls_);
-        if (calls_++ == failing_) throw RuntimeError(61, "test", "the disk is full");
+    DiskFiles& Step() {
+        if (steps_++ == failing_) throw RuntimeError(61, "test", "the disk is full");
+        return disk_;
     }
 
     DiskFiles disk_;
     int failing_;
-    int calls_ = 0;
+    int steps_ = 0;
 };
 
 } // namespace zorvane

@@ -3,7 +3,7 @@
 #include "TempFile.h"
 #include "control/Plate.h"
 #include "library/DiskFiles.h"
-#include "library/SafeSave.h"
+#include "library/ReplaceFile.h"
 #include "platform/memory/MemorySite.h"
 
 namespace zorvane {

@@ -4,7 +4,7 @@
 #include "apps/viewer/LibraryPanel.h"
 #include "apps/viewer/Notice.h"
 #include "apps/viewer/OpenedWindow.h"
-#include "library/SafeSave.h"
+#include "library/ReplaceFile.h"
 
 #include <QLineEdit>
 #include <QMenu>

@@ -1,4 +1,4 @@
-#include "library/SafeSave.h"
+#include "library/ReplaceFile.h"
 
 #include <utility>
 
@@ -40,30 +40,32 @@ class Temporary {
     bool moved_ = false;
 };
 
-class Save {
+class Replacement {
   public:
-    Save(FileLayer& files, const String& path) : files_(files), path_(path) {}
+    Replacement(FileLayer& files, const String& path) : files_(files), path_(path) {}
 
-    void Run(std::string_view before, std::string_view after) {
-        step_ = "looking for it";
+    void Run(std::string_view bytes, std::optional<std::string_view> expected) {
+        step_ = expected ? "looking for it" : "looking for its folder";
         const String target = files_.Resolved(path_);
-        outcome_ = kUnchanged;
+        const bool exists = files_.Exists(target);
+        if (expected && !exists) Raise(ErrorNumber::FileNotFound, "it is not there");
         step_ = "writing to it";
-        files_.CheckWritable(target);
+        if (exists) {
+            outcome_ = kUnchanged;
+            files_.CheckWritable(target);
+        }
         step_ = "writing a temporary file beside it";
         Temporary fresh(files_, target);
-        fresh.Fill(after);
-        step_ = "writing a backup of it";
-        Temporary backup(files_, target);
-        backup.Fill(before);
-        // As late as possible, so that nobody else's change comes in between.
-        step_ = "reading it again";
-        CheckUnchanged(target, before);
-        step_ = "keeping the backup";
-        backup.MoveTo(BackupOf(target));
-        step_ = "putting the new content in its place";
-        fresh.MoveTo(target);
-        Settle(target);
+        fresh.Fill(bytes);
+        if (expected) {
+            ReplaceExpected(target, *expected, fresh);
+        } else {
+            step_ = "putting the new content in its place";
+            fresh.MoveTo(target);
+            step_ = "flushing the folder";
+            outcome_ = " The new content is in the file.";
+            files_.SyncFolder(target);
+        }
     }
 
     [[noreturn]] void Fail(const RuntimeError& error) const {
@@ -76,11 +78,27 @@ class Save {
     }
 
   private:
-    void CheckUnchanged(const String& target, std::string_view before) const {
-        if (files_.Read(target) != before) {
+    [[noreturn]] static void Raise(ErrorNumber number, const String& reason) {
+        throw RuntimeError(static_cast<Long>(number), "Zorvane", reason);
+    }
+
+    void ReplaceExpected(const String& target, std::string_view expected, Temporary& fresh) {
+        step_ = "writing a backup of it";
+        Temporary backup(files_, target);
+        backup.Fill(expected);
+        // As late as possible, and not while another save does the same.
+        step_ = "waiting for other programs";
+        const auto lock = files_.LockFolder(target);
+        step_ = "reading it again";
+        if (files_.Read(target) != expected) {
             throw RuntimeError(kChangedOnDisk, "Zorvane",
                                "another program has changed it since it was read");
         }
+        step_ = "keeping the backup";
+        backup.MoveTo(BackupOf(target));
+        step_ = "putting the new content in its place";
+        fresh.MoveTo(target);
+        Settle(target);
     }
 
     /// Names in a folder may still be lost until the folder is flushed. Where that fails, the
@@ -109,13 +127,13 @@ class Save {
 
 String BackupOf(const String& path) { return path + "~"; }
 
-void SafeSave(FileLayer& files, const String& path, std::string_view before,
-              std::string_view after) {
-    Save save(files, path);
+void ReplaceFile(FileLayer& files, const String& path, std::string_view bytes,
+                 std::optional<std::string_view> expected) {
+    Replacement replacement(files, path);
     try {
-        save.Run(before, after);
+        replacement.Run(bytes, expected);
     } catch (const RuntimeError& error) {
-        save.Fail(error);
+        replacement.Fail(error);
     }
 }
 

@@ -1,9 +1,0 @@
-#pragma once
-
-#include "Test.h"
-
-namespace zorvane {
-
-using Folder = TempFolder;
-
-} // namespace zorvane

@@ -1,0 +1,150 @@
+#include "library/ReplaceFile.h"
+#include "Test.h"
+#include "library/FailingFiles.h"
+#include "library/LibraryDocument.h"
+
+#include <sys/xattr.h>
+
+#include <optional>
+#include <thread>
+
+namespace zorvane {
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::set<String>;
+using Expected = std::optional<std::string_view>;
+
+TEST(ReplaceFile, KeepsABackupAndThePermissionsAndFollowsLinks) {
+    const TempFolder folder;
+    DiskFiles files;
+    fs::create_symlink("a.dat", folder.File("link.dat"));
+    ReplaceFile(files, folder.File("link.dat"), "old");
+    EXPECT_EQ(folder.Names(), (Names{"a.dat", "link.dat"})) << "the link led nowhere";
+    for (const int rights : {0640, 0600}) {
+        fs::permissions(folder.File("a.dat"), fs::perms(rights));
+        ReplaceFile(files, folder.File("link.dat"), "new", "old");
+        EXPECT_EQ(folder.Bytes("a.dat"), "new");
+        EXPECT_EQ(folder.Bytes("a.dat~"), "old");
+        for (const char* const name : {"a.dat", "a.dat~"})
+            EXPECT_EQ(fs::status(folder.File(name)).permissions(), fs::perms(rights));
+        ReplaceFile(files, folder.File("a.dat"), "old");
+    }
+    EXPECT_EQ(folder.Names(), (Names{"a.dat", "a.dat~", "link.dat"}));
+}
+
+// The user with the number 1 may read and write what the group may not.
+TEST(ReplaceFile, KeepsAnAccessList) {
+    const TempFolder folder;
+    folder.Put("a.dat", "old");
+    const String list("\2\0\0\0"
+                      "\1\0\6\0\xFF\xFF\xFF\xFF"
+                      "\2\0\6\0\1\0\0\0"
+                      "\4\0\0\0\xFF\xFF\xFF\xFF"
+                      "\x10\0\6\0\xFF\xFF\xFF\xFF"
+                      "\x20\0\0\0\xFF\xFF\xFF\xFF",
+                      44);
+    const char* const name = "system.posix_acl_access";
+    if (::setxattr(folder.File("a.dat").c_str(), name, list.data(), list.size(), 0) != 0)
+        GTEST_SKIP() << "this file system has no access lists";
+    DiskFiles files;
+    ReplaceFile(files, folder.File("a.dat"), "new");
+    String now(100, '\0');
+    now.resize(::getxattr(folder.File("a.dat").c_str(), name, now.data(), now.size()));
+    EXPECT_EQ(now, list);
+}
+
+TEST(ReplaceFile, LeavesTheFileAsItWasWhicheverStepFails) {
+    for (const Expected& expected : {Expected("old"), Expected()}) {
+        const TempFolder folder;
+        const String path = folder.File("a.dat");
+        String said = "not run yet";
+        int step = 0;
+        for (; !said.empty(); ++step) {
+            folder.Put("a.dat", "old");
+            FailingFiles files(step);
+            said = RaisedBy([&] { ReplaceFile(files, path, "new", expected); }).description;
+            const bool claimsOld = said.ends_with(" The file is as it was.") || step < 2;
+            EXPECT_EQ(folder.Bytes("a.dat"), claimsOld ? "old" : "new") << said;
+            Names names = folder.Names();
+            names.erase("a.dat~");
+            EXPECT_EQ(names, Names{"a.dat"}) << said;
+            if (said.empty()) break;
+            EXPECT_TRUE(claimsOld || !expected) << said;
+            EXPECT_TRUE(said.starts_with(path + " was not saved: ")) << said;
+            EXPECT_NE(said.find(" failed: the disk is full."), said.npos) << said;
+        }
+        EXPECT_GT(step, 8);
+    }
+}
+
+TEST(ReplaceFile, SaysWhatIsWrongWithTheFile) {
+    const TempFolder folder;
+    folder.Put("fixed.dat", "old");
+    fs::permissions(folder.File("fixed.dat"), fs::perms{0444});
+    folder.Put("other.dat", "older");
+    fs::create_directory(folder.File("folder"));
+    DiskFiles files;
+    const struct {
+        const char* name;
+        Expected expected;
+        const char* said;
+    } cases[] = {
+        {"gone.dat", "old", "looking for it failed: it is not there."},
+        {"gone/a.dat", {}, "looking for its folder failed: it is not there."},
+        {"folder", {}, "writing to it failed: it is a folder. The file is as it was."},
+        {"fixed.dat", "old", "writing to it failed: it is read-only. The file is as it was."},
+        {"fixed.dat", {}, "writing to it failed: it is read-only. The file is as it was."},
+        {"other.dat", "old",
+         "another program has changed it since it was read. Nothing was overwritten."},
+    };
+    for (const auto& each : cases) {
+        const String path = folder.File(each.name);
+        EXPECT_EQ(RaisedBy([&] { ReplaceFile(files, path, "new", each.expected); }).description,
+                  path + " was not saved: " + each.said);
+    }
+    EXPECT_EQ(folder.Names(), (Names{"fixed.dat", "folder", "other.dat"}));
+    EXPECT_EQ(RaisedBy([&] { LibraryDocument(files, folder.File("gone.dat")); }).description,
+              folder.File("gone.dat") + " cannot be read: it is not there");
+}
+
+TEST(ReplaceFile, LosesNoChangeOfConcurrentWriters) {
+    const TempFolder folder;
+    folder.Put("a.dat", "");
+    const auto addLines = [path = folder.File("a.dat")] {
+        DiskFiles files;
+        for (int added = 0; added < 20;) {
+            const String before = files.Read(path);
+            if (!NumberRaisedBy([&] { ReplaceFile(files, path, before + "line\n", before); }))
+                ++added;
+        }
+    };
+    std::thread other(addLines);
+    addLines();
+    other.join();
+    EXPECT_EQ(folder.Bytes("a.dat").size(), 40 * String("line\n").size());
+}
+
+TEST(LibraryDocument, OverwritesNothingThatCameMeanwhile) {
+    const TempFolder folder;
+    folder.Put("a.dat", "PLATE One\nROWS 1\n");
+    FailingFiles files;
+    LibraryDocument document(files, folder.File("a.dat"));
+    EXPECT_FALSE(document.ChangedOnDisk());
+    const LibraryText edited = document.Text().WithReplaced("Plate One\r\n    ROWS 2\r\n");
+    const String theirs = "PLATE One\nROWS 3\n";
+    files.onRead = [&] { folder.Put("a.dat", theirs); }; // at the very last moment
+    EXPECT_EQ(NumberRaisedBy([&] { document.Save(edited); }), kChangedOnDisk);
+    EXPECT_EQ(folder.Bytes("a.dat"), theirs);
+    EXPECT_TRUE(document.ChangedOnDisk());
+
+    files.onRead = [] {};
+    document.Reload();
+    document.Save(document.Text().WithReplaced("Plate One\r\n    ROWS 4\r\n"));
+    EXPECT_EQ(folder.Bytes("a.dat"), "Plate One\n    ROWS 4\n");
+    EXPECT_EQ(folder.Bytes("a.dat~"), theirs);
+    EXPECT_FALSE(document.ChangedOnDisk());
+}
+
+} // namespace
+} // namespace zorvane
