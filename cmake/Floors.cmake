@@ -14,12 +14,34 @@ if(ZORVANE_SANITIZE)
     target_compile_options(zorvane_options INTERFACE
         -fsanitize=${ZORVANE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(zorvane_options INTERFACE -fsanitize=${ZORVANE_SANITIZE})
+    # What lies within a container's memory but out of its bounds only the standard library notices.
+    target_compile_definitions(zorvane_options INTERFACE _GLIBCXX_ASSERTIONS)
 endif()
 if(ZORVANE_BUILD_FUZZERS)
     # The fuzzer sees the ways through the libraries only where they count them.
     target_compile_options(zorvane_options INTERFACE -fsanitize=fuzzer-no-link)
     target_link_options(zorvane_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
+
+# Compiles every header with nothing in front of it.
+add_custom_target(check_headers)
+
+# zorvane_check_headers(<target> <folder>): makes the folder's headers part of check_headers.
+function(zorvane_check_headers target folder)
+    file(GLOB_RECURSE headers CONFIGURE_DEPENDS
+         RELATIVE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/${folder}/*.h")
+    list(TRANSFORM headers REPLACE "(.+)" "${PROJECT_BINARY_DIR}/headers/\\1.cpp" OUTPUT_VARIABLE sources)
+    foreach(header source IN ZIP_LISTS headers sources)
+        file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"${header}\"\n")
+    endforeach()
+    if(sources)
+        string(MAKE_C_IDENTIFIER "check_headers_${folder}" check)
+        add_library(${check} OBJECT EXCLUDE_FROM_ALL ${sources})
+        target_include_directories(${check} PRIVATE $<TARGET_PROPERTY:${target},INCLUDE_DIRECTORIES>)
+        target_link_libraries(${check} PRIVATE $<TARGET_PROPERTY:${target},LINK_LIBRARIES>)
+        add_dependencies(check_headers ${check})
+    endif()
+endfunction()
 
 # zorvane_include_root(<target> <folder>): lets users of <target> include "<folder>/X.h".
 function(zorvane_include_root target folder)
@@ -28,6 +50,7 @@ function(zorvane_include_root target folder)
     file(MAKE_DIRECTORY "${root}/${parent}")
     file(CREATE_LINK "${PROJECT_SOURCE_DIR}/${folder}" "${root}/${folder}" SYMBOLIC COPY_ON_ERROR)
     target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${root}>")
+    zorvane_check_headers(${target} ${folder})
 endfunction()
 
 # zorvane_floor(<name> [FOLDERS <folder>...] SOURCES <file>... [USES <target>...])

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that the build needs and that this machine lacks. With none missing it
 # does nothing and needs no network. Without the right to install it names what is missing and fails.
+# With --check it also installs what ./check needs.
 set -euo pipefail
 
 packages=(
@@ -9,6 +10,9 @@ packages=(
     libsqlite3-dev libcli11-dev libgtest-dev
     fonts-dejavu-core # text on a machine that has no font yet
 )
+if [ "${1:-}" = --check ]; then
+    packages+=(clang clang-format clang-tidy git libbenchmark-dev libpugixml-dev)
+fi
 
 is_installed() {
     [ "$(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
