@@ -35,12 +35,22 @@ const char* DescriptionOf(ErrorNumber number) noexcept {
         return "Object variable not set";
     case ErrorNumber::DuplicateKey:
         return "This key is already associated with an element of this collection";
+    case ErrorNumber::XMLNotOpened:
+    case ErrorNumber::XMLNotRead:
+    case ErrorNumber::XMLNotWritten:
+    case ErrorNumber::XMLBadTag:
+    case ErrorNumber::ChangedOnDisk:
+    case ErrorNumber::EditNotPossible:
+    case ErrorNumber::ArrayOutsidePlate:
+        break;
     }
     return "Unknown error";
 }
 
-void Raise(ErrorNumber number) {
-    throw RuntimeError(static_cast<Long>(number), "Zorvane", DescriptionOf(number));
+void Raise(ErrorNumber number) { Raise(number, DescriptionOf(number)); }
+
+void Raise(ErrorNumber number, String description, String source) {
+    throw RuntimeError(static_cast<Long>(number), std::move(source), std::move(description));
 }
 
 } // namespace zorvane

@@ -6,7 +6,8 @@
 
 namespace zorvane {
 
-/// Numbers of the run-time errors that the system itself raises.
+/// Numbers of all run-time errors that are raised: those of the platform, each with a text of its
+/// own, then ours, whose texts say what went wrong where.
 enum class ErrorNumber : Long {
     InvalidProcedureCall = 5,
     Overflow = 6,
@@ -21,6 +22,14 @@ enum class ErrorNumber : Long {
     PathNotFound = 76,
     ObjectNotSet = 91,
     DuplicateKey = 457,
+
+    XMLNotOpened = 1050,
+    XMLNotRead = 1051,
+    XMLNotWritten = 1053,
+    XMLBadTag = 1055,
+    ChangedOnDisk = 1101,   ///< a file is no longer what was read from it
+    EditNotPossible = 1102, ///< a library cannot take an edited definition
+    ArrayOutsidePlate = 2999,
 };
 
 /// The one exception type that leaves a public member: a number, where it arose, and a description.
@@ -39,10 +48,15 @@ class RuntimeError : public std::exception {
     String description_;
 };
 
-/// The fixed text of an error number.
+/// The fixed text of a number of the platform; "Unknown error" for one of ours.
 const char* DescriptionOf(ErrorNumber number) noexcept;
 
-/// Raises a RuntimeError with the number's fixed text and the library's name as its source.
+/// What a RuntimeError names as its source unless the place that raises it has a name.
+inline constexpr const char* kErrorSource = "Zorvane";
+
+/// Raises a RuntimeError with the number's fixed text.
 [[noreturn]] void Raise(ErrorNumber number);
+/// Raises a RuntimeError with a text of its own.
+[[noreturn]] void Raise(ErrorNumber number, String description, String source = kErrorSource);
 
 } // namespace zorvane

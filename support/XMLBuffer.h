@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/RuntimeError.h"
 #include "runtime/Text.h"
 #include "runtime/TextFile.h"
 
@@ -33,7 +34,7 @@ class XMLBuffer {
         at_ = line_.size() - TrimStart(line_).size();
     }
 
-    /// Takes so many characters off the front. Good until the buffer is set or read anew.
+    /// Takes that many characters off the front. Valid until the buffer is set or read again.
     std::string_view Take(std::size_t length) {
         const std::string_view taken = Rest().substr(0, length);
         at_ += length;

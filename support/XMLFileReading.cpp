@@ -6,9 +6,7 @@ namespace zorvane {
 
 namespace {
 
-constexpr Long kNotOpened = 1050;
-constexpr Long kNotRead = 1051;
-constexpr Long kBadTag = 1055;
+const char* const kFileSource = "XMLFile";
 const char* const kTagSource = "XML Read Data";
 
 /// Without the spaces around it; other blanks belong to names and values of attributes.
@@ -37,8 +35,9 @@ String XMLFile::ReadXMLSectionHeader() {
     buffer_.Take(buffer.find('<') + 1); // nothing when there is none
     const std::size_t end = buffer_.Rest().find('>');
     if (end == String::npos) {
-        throw RuntimeError(kBadTag, "XML section header missing in file " + fileName_,
-                           "Application-defined or object-defined error");
+        // The text about the file stands where the source belongs: hosts show it as such.
+        Raise(ErrorNumber::XMLBadTag, "Application-defined or object-defined error",
+              "XML section header missing in file " + fileName_);
     }
     const std::string_view tag = buffer_.Take(end + 1).substr(0, end);
     return tag.starts_with('/') ? EndSection(tag) : BeginSection(tag);
@@ -74,9 +73,10 @@ void XMLFile::ReadAttributes(std::string_view section, std::string_view rest) {
         const std::string_view value = TrimSpaces(rest.substr(equals + 1));
         const std::size_t quote = value.find('"', 1);
         if (!value.starts_with('"') || quote == value.npos) {
-            throw RuntimeError(kBadTag, kTagSource,
-                               "Missing quotes in section <" + String(section) +
-                                   "> tag value in file " + fileName_);
+            Raise(ErrorNumber::XMLBadTag,
+                  "Missing quotes in section <" + String(section) + "> tag value in file " +
+                      fileName_,
+                  kTagSource);
         }
         StoreAttribute(name, value.substr(1, quote - 1));
         rest = TrimSpaces(value.substr(quote + 1));
@@ -122,9 +122,9 @@ void XMLFile::EndData() {
 String XMLFile::ReadXMLStringValue() { return XMLToString(ReadXMLData()); }
 
 void XMLFile::RaiseSectionEnd() const {
-    throw RuntimeError(kBadTag, kTagSource,
-                       "Section end </" + sections_.At(depth_ - 1) + "> not found in file " +
-                           fileName_);
+    Raise(ErrorNumber::XMLBadTag,
+          "Section end </" + sections_.At(depth_ - 1) + "> not found in file " + fileName_,
+          kTagSource);
 }
 
 std::string_view XMLFile::ReadBuffer() {
@@ -141,15 +141,16 @@ void XMLFile::OpenForReading() {
         ReadHeaderLine();
     } catch (const RuntimeError&) {
         input_.Close();
-        throw RuntimeError(kNotOpened, "XMLFile",
-                           "Could not open XMLFile <" + fileName_ + "> for reading.");
+        Raise(ErrorNumber::XMLNotOpened, "Could not open XMLFile <" + fileName_ + "> for reading.",
+              kFileSource);
     }
 }
 
 /// A line that is no header stays in the buffer, and reading on begins with it.
 void XMLFile::ReadHeaderLine() {
     buffer_.Set(String(TrimSpaces(input_.ReadLine())));
-    if (!IsHeaderLine(buffer_.Rest())) throw RuntimeError(kNotRead, "XMLFile", "No header line");
+    if (!IsHeaderLine(buffer_.Rest()))
+        Raise(ErrorNumber::XMLNotRead, "No header line", kFileSource);
     buffer_.Set({});
 }
 
@@ -158,8 +159,8 @@ void XMLFile::ReadNextLine() {
         buffer_.ReadLine(input_);
     } catch (const RuntimeError&) {
         input_.Close();
-        throw RuntimeError(kNotRead, "XMLFile",
-                           "Could not read data from XMLFile <" + fileName_ + ">");
+        Raise(ErrorNumber::XMLNotRead, "Could not read data from XMLFile <" + fileName_ + ">",
+              kFileSource);
     }
 }
 

@@ -7,11 +7,7 @@
 
 namespace zorvane {
 
-namespace {
-
-constexpr Long kNotWritten = 1053;
-
-} // namespace
+namespace {} // namespace
 
 void XMLFile::OpenXMLSection(std::string_view section, std::string_view tag) {
     sections_.At(depth_) = section;
@@ -88,8 +84,8 @@ void XMLFile::WriteIndented(std::initializer_list<std::string_view> parts) {
 }
 
 void XMLFile::RaiseNotWritten() const {
-    throw RuntimeError(kNotWritten, "XMLFile",
-                       "Could not write data to XMLFile <" + fileName_ + ">");
+    Raise(ErrorNumber::XMLNotWritten, "Could not write data to XMLFile <" + fileName_ + ">",
+          "XMLFile");
 }
 
 void XMLFile::CloseXMLFile() {
