@@ -80,6 +80,15 @@ CharacterAt FirstCharacter(std::string_view text) {
     return {code, length, true};
 }
 
+bool IsUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const CharacterAt character = FirstCharacter(text);
+        if (!character.valid) return false;
+        text.remove_prefix(character.bytes);
+    }
+    return true;
+}
+
 Long CharacterCount(std::string_view text) {
     Long count = 0;
     while (!text.empty()) {

@@ -52,6 +52,9 @@ struct CharacterAt {
 };
 CharacterAt FirstCharacter(std::string_view text);
 
+/// True when the whole text is valid UTF-8.
+bool IsUtf8(std::string_view text);
+
 /// The number of characters in a text.
 Long CharacterCount(std::string_view text);
 

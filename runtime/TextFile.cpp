@@ -1,5 +1,6 @@
 #include "runtime/TextFile.h"
 
+#include "runtime/FileName.h"
 #include "runtime/RuntimeError.h"
 
 #include <algorithm>
@@ -29,7 +30,7 @@ namespace {
 void Open(std::filebuf& file, const String& name, std::ios::openmode mode, ErrorNumber missing) {
     // A zero character would silently cut the name short.
     if (name.find('\0') != name.npos) Raise(missing);
-    const std::filesystem::path path(name);
+    const std::filesystem::path path = PathOf(name);
     std::error_code ignored;
     if (std::filesystem::is_directory(path, ignored)) Raise(ErrorNumber::PathFileAccess);
     if (!file.open(path, mode | std::ios::binary)) RaiseOpenFailure(path, missing);

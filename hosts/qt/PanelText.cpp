@@ -10,15 +10,6 @@ namespace zorvane {
 
 namespace {
 
-bool IsUtf8(std::string_view text) {
-    while (!text.empty()) {
-        const CharacterAt character = FirstCharacter(text);
-        if (!character.valid) return false;
-        text.remove_prefix(character.bytes);
-    }
-    return true;
-}
-
 bool FitsBytes(const QString& text) {
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() <= 0xFF; });
 }
