@@ -71,8 +71,7 @@ TEST(InvertingOverlay, DrawsOutlines) {
         {{true, 0, 0, 7, 5}, kSolidPen, {".#####.", "#.....#", "#.....#", "#.....#", ".#####."}},
         {{true, 1, 0, 5, 4}, kSolidPen, {"..##...", ".#..#..", ".#..#..", "..##...", "......."}},
         {{true, 2, 0, 3, 5}, kSolidPen, Rows(5, "..#....")},
-        {{true, 3, 1, 4, 1}, kSolidPen, Rows(5, ".......")},
-    };
+        {{true, 3, 1, 4, 1}, kSolidPen, Rows(5, ".......")}};
     for (const auto& row : rows)
         EXPECT_EQ(Drawing(7, 5, row.pen).Draw(row.figure).Picture(), row.picture) << row.figure;
 }
@@ -92,23 +91,6 @@ TEST(InvertingOverlay, DrawingTwiceLeavesNoTrace) {
         EXPECT_EQ(drawing.Picture(), before) << figure;
         drawing.Draw({false, 10, 10, 45, 45});
         EXPECT_FALSE(drawing.overlay.Any()) << figure;
-    }
-}
-
-TEST(InvertingOverlay, ShowsThePartThatLiesInside) {
-    const Figure figures[] = {{false, 5, 7, 70, 64},
-                              {false, 30, 25, 31, 90},
-                              {true, 5, 7, 70, 64},
-                              {true, 0, 31, 80, 36},
-                              {true, 30, 3, 35, 79}};
-    for (const Figure& f : figures) {
-        const auto whole = Drawing(90, 90).Draw(f).Picture();
-        const auto part =
-            Drawing(20, 20).Draw({f.ellipse, f.left - 25, f.top - 25, f.right - 25, f.bottom - 25});
-        Rows cut;
-        for (std::size_t y = 25; y < 45; ++y)
-            cut.push_back(whole[y].substr(25, 20));
-        EXPECT_EQ(part.Picture(), cut) << f;
     }
 }
 
@@ -157,20 +139,6 @@ TEST(InvertingOverlay, EllipsesFillTheirBoxWithOneClosedLine) {
     }
 }
 
-TEST(InvertingOverlay, ReportsWhatItTouched) {
-    Drawing drawing(20, 20);
-    std::vector<Rect> touched;
-    drawing.overlay.onChange = [&](const Rect& pixels) { touched.push_back(pixels); };
-    drawing.Draw({false, 5, 5, 30, 10});
-    EXPECT_EQ(touched, (std::vector<Rect>{{5, 5, 15, 1}, {5, 9, 15, 1}, {5, 6, 1, 3}}));
-    touched.clear();
-    drawing.Draw({true, -5, 15, 10, 40});
-    EXPECT_EQ(touched, (std::vector<Rect>{{0, 15, 10, 5}}));
-    touched.clear();
-    drawing.Draw({false, 20, 0, 30, 10}).Draw({true, 0, 20, 10, 30});
-    EXPECT_TRUE(touched.empty());
-}
-
 TEST(InvertingOverlay, DrawsOnlyWithAContextInInvertingMode) {
     InvertingOverlay overlay(10, 10);
     EXPECT_EQ(overlay.GetDC(0), 0);
@@ -200,16 +168,6 @@ TEST(InvertingOverlay, DrawsOnlyWithAContextInInvertingMode) {
     EXPECT_FALSE(overlay.Any());
     EXPECT_FALSE(overlay.IsInverted(1, 1));
     EXPECT_FALSE(overlay.IsInverted(-1, 20));
-}
-
-TEST(InvertingOverlay, KeepsRowsAsBitsWithTheLeftmostFirst) {
-    Drawing drawing(40, 3, kSolidPen);
-    EXPECT_EQ(drawing.overlay.BytesPerRow(), 8U);
-    drawing.Draw({false, 1, 1, 33, 2});
-    const std::uint8_t* const row = drawing.overlay.Row(1);
-    EXPECT_EQ(row[0], 0x7F);
-    EXPECT_EQ(row[1], 0xFF);
-    EXPECT_EQ(row[4], 0x80);
 }
 
 } // namespace

@@ -20,21 +20,5 @@ TEST(MemorySite, AnswersFromItsScriptAndThenCancels) {
         EXPECT_EQ(site.Choose(menu), chosen);
 }
 
-TEST(MemorySite, KeepsItsOverlayAsLargeAsTheControl) {
-    MemorySite site;
-    EXPECT_EQ(site.overlay.Width(), 440);
-    EXPECT_EQ(site.overlay.Height(), 320);
-    site.Resize(3000, 1e30F);
-    EXPECT_EQ(site.overlay.Width(), 200);
-    EXPECT_EQ(site.overlay.Height(), 8192);
-    EXPECT_EQ(site.Width(), 3000);
-
-    MemoryProcess process;
-    const InstalledProcess installed(process);
-    process.screen.twipsPerPixelX = 0;
-    site.Resize(0, 3000);
-    EXPECT_EQ(site.overlay.Width(), 0) << "no pixels on a screen without a pixel size";
-}
-
 } // namespace
 } // namespace zorvane

@@ -1,4 +1,4 @@
-#include "TempFolder.h"
+#include "Test.h"
 #include "platform/memory/MemoryRegistry.h"
 #include "platform/sqlite/SqliteRegistry.h"
 

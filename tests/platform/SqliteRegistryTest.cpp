@@ -1,6 +1,5 @@
 #include "platform/sqlite/SqliteRegistry.h"
-#include "TempFile.h"
-#include "TempFolder.h"
+#include "Test.h"
 #include "platform/sqlite/Database.h"
 
 #include <algorithm>
@@ -50,18 +49,6 @@ TEST(SqliteRegistry, TouchesNothingBeforeItIsWrittenTo) {
     SqliteRegistry nowhere{RegistryPlaces()};
     EXPECT_EQ(Get(nowhere, kCurrentUser, "V"), "(2)");
     EXPECT_EQ(Set(nowhere, kCurrentUser, "V", "x"), kRegistryAccessDenied);
-}
-
-TEST(SqliteRegistry, KeepsTheMachinesValuesWhereEveryoneFindsThem) {
-    const TempFolder folder;
-    const auto shared = folder.Path() / "shared.sqlite";
-    const RegistryPlaces administrator{.own = folder.Path() / "admin.sqlite", .shared = shared};
-    const RegistryPlaces user{.own = folder.Path() / "user.sqlite", .shared = shared};
-    SqliteRegistry admins(administrator), users(user);
-    EXPECT_EQ(Set(admins, kLocalMachine, "V", "of the machine"), kRegistrySuccess);
-    EXPECT_EQ(Set(admins, kCurrentUser, "V", "of the administrator"), kRegistrySuccess);
-    EXPECT_EQ(Get(users, kLocalMachine, "V"), "of the machine");
-    EXPECT_EQ(Get(users, kCurrentUser, "V"), "(2)");
 }
 
 TEST(SqliteRegistry, WhoMayNotWriteTheMachinesFileWritesAndReadsTheirOwn) {
@@ -133,40 +120,6 @@ TEST(SqliteRegistry, LeavesFilesThatHoldSomethingElseAlone) {
         if (row.result != kRegistrySuccess) {
             EXPECT_EQ(file.Bytes(), row.bytes) << start;
         }
-    }
-}
-
-/// Without the rights of an administrator, to whom no file is closed.
-struct PlainUser {
-    const bool left = geteuid() == 0 && seteuid(65534) == 0;
-    ~PlainUser() {
-        if (left && seteuid(0) != 0) std::abort();
-    }
-};
-
-TEST(SqliteRegistry, RefusesPlacesThatCannotBeWritten) {
-    using std::filesystem::perms;
-    const TempFolder folder;
-    const auto written = folder.Path() / "written.sqlite";
-    SqliteRegistry full({.own = written, .shared = {}});
-    ASSERT_EQ(Set(full, kCurrentUser, "V", "kept"), kRegistrySuccess);
-    const auto closed = folder.Path() / "closed";
-    std::filesystem::create_directory(closed);
-    std::filesystem::permissions(written,
-                                 perms::owner_read | perms::group_read | perms::others_read);
-    std::filesystem::permissions(closed, perms::none);
-    const PlainUser user;
-    EXPECT_EQ(Get(full, kCurrentUser, "V"), "kept");
-    for (const std::filesystem::path& place :
-         {written, closed / "r.sqlite", folder.Path() / "new" / "r.sqlite", folder.Path(),
-          folder.Path() / String(300, 'x'), std::filesystem::path("/dev/null")}) {
-        SqliteRegistry registry({.own = place, .shared = {}});
-        EXPECT_EQ(Set(registry, kCurrentUser, "W", "x"), kRegistryAccessDenied) << place;
-        // What may not be read hides nothing.
-        SqliteRegistry behind({.own = written, .shared = place});
-        std::vector<StoredKey> keys;
-        EXPECT_EQ(behind.Keys(keys), kRegistrySuccess) << place;
-        EXPECT_EQ(keys.size(), 1U) << place;
     }
 }
 
@@ -252,39 +205,23 @@ TEST(SqliteRegistry, ProcessesThatWriteAtOnceLoseNothingWhenOneIsKilled) {
     EXPECT_TRUE(check.Next() && check.Bytes(0) == "ok");
 }
 
-TEST(SqliteRegistry, AFileThatIsJustBeingMadeIsNoneYet) {
-    const TempFolder folder;
-    for (int round = 0; round < 10; ++round) {
-        const auto file = folder.Path() / std::to_string(round);
-        Writer writer(file, "V");
-        SqliteRegistry registry({.own = file, .shared = {}});
-        String found;
-        do {
-            found = Get(registry, kCurrentUser, "V0");
-        } while (found == "(2)");
-        ASSERT_EQ(found, "0");
-    }
-}
-
 TEST(RegistryPlaces, FollowTheDesktopsRules) {
     const String here = std::filesystem::absolute(":memory:").string();
     const struct {
         std::map<const char*, const char*> environment;
         const char* own;
         const char* shared;
-    } rows[] = {
-        {{{"HOME", "/home/u"}},
-         "/home/u/.config/zorvane/registry.sqlite",
-         "/etc/xdg/zorvane/registry.sqlite"},
-        {{{"HOME", "/home/u"}, {"XDG_CONFIG_HOME", "/c"}, {"XDG_CONFIG_DIRS", "/d:/e"}},
-         "/c/zorvane/registry.sqlite",
-         "/d/zorvane/registry.sqlite"},
-        {{{"HOME", "/home/u"}, {"XDG_CONFIG_HOME", "c"}, {"XDG_CONFIG_DIRS", "d:/e"}},
-         "/home/u/.config/zorvane/registry.sqlite",
-         "/e/zorvane/registry.sqlite"},
-        {{}, "", "/etc/xdg/zorvane/registry.sqlite"},
-        {{{"HOME", "/home/u"}, {"ZORVANE_REGISTRY", ":memory:"}}, here.c_str(), ""},
-    };
+    } rows[] = {{{{"HOME", "/home/u"}},
+                 "/home/u/.config/zorvane/registry.sqlite",
+                 "/etc/xdg/zorvane/registry.sqlite"},
+                {{{"HOME", "/home/u"}, {"XDG_CONFIG_HOME", "/c"}, {"XDG_CONFIG_DIRS", "/d:/e"}},
+                 "/c/zorvane/registry.sqlite",
+                 "/d/zorvane/registry.sqlite"},
+                {{{"HOME", "/home/u"}, {"XDG_CONFIG_HOME", "c"}, {"XDG_CONFIG_DIRS", "d:/e"}},
+                 "/home/u/.config/zorvane/registry.sqlite",
+                 "/e/zorvane/registry.sqlite"},
+                {{}, "", "/etc/xdg/zorvane/registry.sqlite"},
+                {{{"HOME", "/home/u"}, {"ZORVANE_REGISTRY", ":memory:"}}, here.c_str(), ""}};
     for (const auto& row : rows) {
         for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "ZORVANE_REGISTRY"})
             unsetenv(name);

@@ -1,5 +1,5 @@
 #include "runtime/Checked.h"
-#include "Raised.h"
+#include "Test.h"
 #include "runtime/Rounding.h"
 
 #include <gtest/gtest.h>

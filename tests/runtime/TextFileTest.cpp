@@ -1,7 +1,6 @@
 #include "runtime/TextFile.h"
 
-#include "Raised.h"
-#include "TempFile.h"
+#include "Test.h"
 
 #include <filesystem>
 #include <functional>
@@ -34,16 +33,14 @@ TEST(TextFile, CutsLinesAtAnyLineEnd) {
     const struct {
         String bytes;
         std::vector<String> lines;
-    } rows[] = {
-        {"", {}},
-        {"a", {"a"}},
-        {"a\n", {"a"}},
-        {"a\r\nb\nc\rd", {"a", "b", "c", "d"}},
-        {"\r\n\n\r", {"", "", ""}},
-        {"a\n\r\nb", {"a", "", "b"}},
-        {"a\r\rb\r", {"a", "", "b"}},
-        {zero + "\n\xFF\xFE", {zero, "\xFF\xFE"}},
-    };
+    } rows[] = {{"", {}},
+                {"a", {"a"}},
+                {"a\n", {"a"}},
+                {"a\r\nb\nc\rd", {"a", "b", "c", "d"}},
+                {"\r\n\n\r", {"", "", ""}},
+                {"a\n\r\nb", {"a", "", "b"}},
+                {"a\r\rb\r", {"a", "", "b"}},
+                {zero + "\n\xFF\xFE", {zero, "\xFF\xFE"}}};
     for (const auto& row : rows)
         EXPECT_EQ(LinesOf(row.bytes), row.lines) << testing::PrintToString(row.bytes);
 }
@@ -92,15 +89,18 @@ TEST(TextFile, GoesBackToEveryPosition) {
     EXPECT_TRUE(text.AtEnd());
 }
 
-TEST(TextFile, WritesCrLfAndReplacesWhatWasThere) {
-    const TempFile file("something longer than what follows");
-    TextFile text;
-    text.OpenOutput(file.Path());
-    text.WriteLine("a\nb");
-    text.WriteLine("");
-    text.Close();
-    EXPECT_EQ(file.Bytes(), "a\nb\r\n\r\n");
-    EXPECT_FALSE(text.IsOpen());
+// Names are UTF-8, and bytes where they are not.
+TEST(TextFile, WritesAndReadsFilesOfAnyName) {
+    const TempFolder folder;
+    for (const char* const name : {"Plätten α.Dat", "Pl\xE4tten"}) {
+        TextFile text;
+        text.OpenOutput(folder.File(name));
+        text.WriteLine("a\nb");
+        text.Close();
+        EXPECT_EQ(folder.Bytes(name), "a\nb\r\n");
+        text.OpenInput(folder.File(name));
+        EXPECT_EQ(RestOf(text), (std::vector<String>{"a", "b"}));
+    }
 }
 
 TEST(TextFile, RaisesTheNumberOfEachFailure) {
@@ -115,25 +115,23 @@ TEST(TextFile, RaisesTheNumberOfEachFailure) {
         const char* what;
         Long number;
         std::function<void()> action;
-    } rows[] = {
-        {"no name", 53, [&] { other.OpenInput(""); }},
-        {"no file", 53, [&] { other.OpenInput(folder + "missing"); }},
-        {"cut name", 53, [&] { other.OpenInput(file.Path() + String(1, '\0')); }},
-        {"no folder", 76, [&] { other.OpenInput(folder + "missing/file"); }},
-        {"file as folder", 76, [&] { other.OpenInput(file.Path() + "/file"); }},
-        {"folder", 75, [&] { other.OpenInput(folder); }},
-        {"overlong name", 53, [&] { other.OpenInput(String(100000, 'x')); }},
-        {"write to folder", 75, [&] { other.OpenOutput(folder); }},
-        {"write below nothing", 76, [&] { other.OpenOutput(folder + "missing/file"); }},
-        {"write without name", 75, [&] { other.OpenOutput(""); }},
-        {"past end", 62, [&] { input.ReadLine(); }},
-        {"negative position", 5, [&] { input.Seek(-1); }},
-        {"write to input", 52, [&] { input.WriteLine("x"); }},
-        {"read closed", 52, [&] { closed.ReadLine(); }},
-        {"end of closed", 52, [&] { closed.AtEnd(); }},
-        {"write closed", 52, [&] { closed.WriteLine("x"); }},
-        {"close closed", 0, [&] { closed.Close(); }},
-    };
+    } rows[] = {{"no name", 53, [&] { other.OpenInput(""); }},
+                {"no file", 53, [&] { other.OpenInput(folder + "missing"); }},
+                {"cut name", 53, [&] { other.OpenInput(file.Path() + String(1, '\0')); }},
+                {"no folder", 76, [&] { other.OpenInput(folder + "missing/file"); }},
+                {"file as folder", 76, [&] { other.OpenInput(file.Path() + "/file"); }},
+                {"folder", 75, [&] { other.OpenInput(folder); }},
+                {"overlong name", 53, [&] { other.OpenInput(String(100000, 'x')); }},
+                {"write to folder", 75, [&] { other.OpenOutput(folder); }},
+                {"write below nothing", 76, [&] { other.OpenOutput(folder + "missing/file"); }},
+                {"write without name", 75, [&] { other.OpenOutput(""); }},
+                {"past end", 62, [&] { input.ReadLine(); }},
+                {"negative position", 5, [&] { input.Seek(-1); }},
+                {"write to input", 52, [&] { input.WriteLine("x"); }},
+                {"read closed", 52, [&] { closed.ReadLine(); }},
+                {"end of closed", 52, [&] { closed.AtEnd(); }},
+                {"write closed", 52, [&] { closed.WriteLine("x"); }},
+                {"close closed", 0, [&] { closed.Close(); }}};
     for (const auto& row : rows)
         EXPECT_EQ(NumberRaisedBy(row.action), row.number) << row.what;
     EXPECT_FALSE(other.IsOpen());

@@ -1,11 +1,6 @@
+#include "Test.h"
 #include "support/TStringPairList.h"
 #include "support/XMLFile.h"
-
-#include "Raised.h"
-#include "TempFile.h"
-#include "TempFolder.h"
-#include "TestProcess.h"
-#include "platform/sqlite/SqliteRegistry.h"
 
 #include <random>
 
@@ -84,22 +79,6 @@ TEST(PairListXML, ReadsFieldsInAnyCaseAndKeepsTheQuotesOfTheName) {
     EXPECT_EQ(PairsOf(list), (Pairs{{"A", "1"}, {"b", "2"}}));
 }
 
-TEST(PairListXML, StopsAtTheEndOfAFileCutAnywhere) {
-    TStringPairList list;
-    list.Name = "Tags";
-    Fill(list, {{"Colour", "Red & \"blue\""}, {"Empty", ""}, {"Last", "1"}});
-    const String bytes = Bytes(list);
-    const TempFile file;
-    for (std::size_t length = 0; length < bytes.size() - 2; ++length) {
-        std::ofstream(file.Path(), std::ios::binary) << bytes.substr(0, length);
-        TStringPairList cut;
-        const Long number = NumberRaisedBy([&] { Read(cut, file.Path()); });
-        const bool expected = length < 21 ? number == 1050 : number == 1051 || number == 1055;
-        EXPECT_TRUE(expected) << number << " at " << length;
-        EXPECT_LE(cut.Count(), list.Count());
-    }
-}
-
 /// A text as it is read back: its line breaks are gone, with the blanks around them.
 String Joined(std::string_view text) {
     String joined;
@@ -144,22 +123,6 @@ TEST(PairListXML, ReadsRandomListsBack) {
     }
 }
 
-TEST(PairListXML, HoldsAMegabyteInAValueAndMorePairsThanSixteenBitsCount) {
-    TStringPairList list;
-    constexpr int pairs = 70000;
-    for (int i = 0; i < pairs; ++i)
-        list.Value("Name " + std::to_string(i), std::to_string(i));
-    list.Value("Large", String(1 << 19, '&') + String(1 << 19, 'x'));
-    const TempFile file;
-    Write(list, file.Path());
-    TStringPairList read;
-    Read(read, file.Path());
-    EXPECT_EQ(read.Count(), pairs + 1);
-    EXPECT_EQ(read.Value("LARGE"), list.Value("Large"));
-    EXPECT_EQ(read.Pair(pairs)->Name(), "Name 69999");
-    EXPECT_EQ(NumberRaisedBy([&] { read.IndexOf("Name 69999"); }), 6);
-}
-
 class PairListRegistry : public testing::Test {
   protected:
     void ExpectNoEntries() {
@@ -182,35 +145,6 @@ TEST_F(PairListRegistry, AddsWhatWasWrittenAndWhatWasLeftBehind) {
     EXPECT_FALSE(read.ReadFromRegistry(kRoot, kKey));
     EXPECT_EQ(read.Name, "Tags");
     EXPECT_EQ(PairsOf(read), (Pairs{{"Z", "kept"}, {"A", "1"}, {"B", "b"}, {"C", "3"}}));
-}
-
-/// Writes random lists to the registry in force and reads them back.
-void ExpectRandomListsBack(int rounds) {
-    using namespace std::string_view_literals;
-    std::mt19937 random(21);
-    for (int round = 0; round < rounds; ++round) {
-        const String key = kKey + std::to_string(round);
-        TStringPairList written;
-        for (int i = 0; i < 51; ++i)
-            written.Value(RandomText(random, "abcdef\\>\"\n"sv),
-                          RandomText(random, "a\r\n\0\xFF"sv));
-        written.WriteToRegistry(kRoot, key);
-        TStringPairList read;
-        read.ReadFromRegistry(kRoot, key);
-        ASSERT_EQ(PairsOf(read), PairsOf(written));
-    }
-}
-
-TEST_F(PairListRegistry, ReadsRandomListsBack) { ExpectRandomListsBack(100); }
-
-TEST(PairListSqliteRegistry, ReadsRandomListsBack) {
-    const TempFolder folder;
-    struct : TestProcess {
-        Registry& TheRegistry() override { return *kept; }
-        std::optional<SqliteRegistry> kept;
-    } process;
-    process.kept.emplace(RegistryPlaces{.own = folder.Path() / "r.sqlite", .shared = {}});
-    ExpectRandomListsBack(3);
 }
 
 TEST_F(PairListRegistry, RefusesKeysThatHoldNoList) {

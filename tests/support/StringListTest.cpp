@@ -1,8 +1,6 @@
 #include "support/StringList.h"
 
-#include "Raised.h"
-#include "TempFile.h"
-#include "TestProcess.h"
+#include "Test.h"
 
 namespace zorvane {
 namespace {
@@ -19,15 +17,13 @@ TEST(StringList, DropsTheOldestTextsBeyondItsCap) {
         std::vector<const char*> added;
         const char* content;
         Long size;
-    } rows[] = {
-        {{"aaaa", "bbbb"}, "aaaa;bbbb;", 8},
-        {{"aaaa", "bbbb", "cc"}, "aaaa;bbbb;cc;", 10},
-        {{"aaaa", "bbbb", "cccc"}, "bbbb;cccc;", 8},
-        {{"a", "b", "c", "ddddddddd"}, "c;ddddddddd;", 10},
-        {{"a", "bbbbbbbbbbbbbbbbbbbb"}, "a;bbbbbbbbbbbbbbbbbbbb;", 21},
-        {{"bbbbbbbbbbbbbbbbbbbb", "a"}, "bbbbbbbbbbbbbbbbbbbb;a;", 21},
-        {{"äöüß", "\xFF\xFE\xFD", "ccc"}, "äöüß;\xFF\xFE\xFD;ccc;", 10},
-    };
+    } rows[] = {{{"aaaa", "bbbb"}, "aaaa;bbbb;", 8},
+                {{"aaaa", "bbbb", "cc"}, "aaaa;bbbb;cc;", 10},
+                {{"aaaa", "bbbb", "cccc"}, "bbbb;cccc;", 8},
+                {{"a", "b", "c", "ddddddddd"}, "c;ddddddddd;", 10},
+                {{"a", "bbbbbbbbbbbbbbbbbbbb"}, "a;bbbbbbbbbbbbbbbbbbbb;", 21},
+                {{"bbbbbbbbbbbbbbbbbbbb", "a"}, "bbbbbbbbbbbbbbbbbbbb;a;", 21},
+                {{"äöüß", "\xFF\xFE\xFD", "ccc"}, "äöüß;\xFF\xFE\xFD;ccc;", 10}};
     for (const auto& row : rows) {
         StringList list;
         list.MaxSize = 10;

@@ -1,7 +1,6 @@
 #include "support/TStringPairList.h"
 
-#include "Raised.h"
-#include "TestProcess.h"
+#include "Test.h"
 
 #include <gtest/gtest.h>
 
@@ -90,41 +89,6 @@ TEST_F(PairList, LooksUpByPositionAndName) {
         EXPECT_EQ(NumberRaisedBy([&] { EXPECT_EQ(list.Pair(4), nullptr); }), errors ? 9 : 0);
         EXPECT_EQ(NumberRaisedBy([&] { EXPECT_EQ(list.Value("d"), "\x1B\x1B"); }), errors ? 5 : 0);
     }
-}
-
-TEST_F(PairList, AssignsValues) {
-    list.Value("B", "1");
-    EXPECT_FALSE(list.DataChanged);
-    list.Value("B", "2");
-    EXPECT_TRUE(list.DataChanged);
-    list.DataChanged = false;
-    list.Value("New", "3");
-    EXPECT_TRUE(list.DataChanged);
-    EXPECT_EQ(Content(list), "a=1 b=2 c=1 New=3");
-}
-
-TEST_F(PairList, FindsPositionsByPresentNamesAndPairsByFirstNames) {
-    list.Pair("b")->Name("Renamed");
-    EXPECT_EQ(list.IndexOf("RENAMED"), 2);
-    EXPECT_EQ(list.IndexOf("b"), 0);
-    EXPECT_EQ(list.Pair("b")->Name(), "Renamed");
-    list.Pair("c")->Name("A");
-    EXPECT_EQ(list.IndexOf("a"), 1);
-    // Copying adds each pair under its present name, so that the second A replaces the first.
-    TStringPairList copy;
-    copy.Copy(list);
-    EXPECT_EQ(Content(copy), "Renamed=1 A=1");
-}
-
-TEST_F(PairList, RemovesWithoutCountingItAsAChange) {
-    list.Remove(1);
-    list.Remove("C");
-    EXPECT_EQ(Content(list), "b=1");
-    EXPECT_EQ(NumberRaisedBy([&] { list.Remove("c"); }), 5);
-    EXPECT_EQ(NumberRaisedBy([&] { list.Remove(2); }), 9);
-    list.Clear();
-    EXPECT_EQ(list.Count(), 0);
-    EXPECT_FALSE(list.DataChanged);
 }
 
 TEST_F(PairList, CopiesPairsAndMembers) {
