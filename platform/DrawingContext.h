@@ -14,8 +14,8 @@ inline constexpr Long kNotXorPenMode = 10; ///< SetROP2: not (pen xor screen)
 /// Made while an outline is begun, moved or ended; nothing is kept beyond a call but the handles.
 ///
 /// With a black dotted pen in not-xor mode a figure inverts the pixels under its dots and leaves
-/// everything else alone, so drawing it twice restores the window. A repaint of the window wipes
-/// what was drawn.
+/// everything else untouched, so drawing it twice restores the window. A repaint of the window
+/// wipes what was drawn.
 class DrawingContext {
   public:
     using Handle = Long;

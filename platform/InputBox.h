@@ -8,7 +8,7 @@ namespace zorvane {
 struct Question {
     String prompt; ///< may hold CR LF line breaks
     String title;
-    String preset; ///< the text that stands in the box at first
+    String preset; ///< the text that the box shows initially
 };
 
 /// Asks the operator for a line of text.

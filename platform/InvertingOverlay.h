@@ -20,8 +20,8 @@ namespace zorvane {
 /// in either order, and touches each of its pixels once, so that drawing it twice leaves no trace.
 /// A dotted pen draws three pixels and leaves three out, counted along the figure from a place of
 /// its own; any other pen draws them all. Pens are black and one pixel wide. Outlines are drawn in
-/// not-xor mode alone; in another mode, or with a context that is none, nothing is drawn. A pen
-/// that is deleted goes on drawing where it is selected.
+/// not-xor mode only; in another mode, or with a context that is none, nothing is drawn. A pen
+/// that is deleted keeps drawing where it is selected.
 class InvertingOverlay final : public DrawingContext {
   public:
     InvertingOverlay() = default;

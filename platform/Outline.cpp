@@ -54,7 +54,7 @@ EllipseOutline::EllipseOutline(const PixelBox& box)
 std::array<PixelRun, 2> EllipseOutline::RowRuns(std::int64_t y) const {
     const double fromCentre = std::abs(static_cast<double>(y - box_.top) + 0.5 - radiusY_);
     const std::int64_t inset = Inset(fromCentre);
-    // What the next row away from the centre covers is not outline here, its ends apart.
+    // What the next row away from the centre covers is not outline here, except at its ends.
     const std::int64_t covered = std::max(inset + 1, Inset(fromCentre + 1));
     const std::int64_t leftEnd = box_.left + covered;
     const std::int64_t rightStart = std::max(box_.right - covered, leftEnd);

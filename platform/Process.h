@@ -15,15 +15,17 @@ class Process {
     virtual Registry& TheRegistry() = 0;
 };
 
-/// The process in force: the one installed last or, where none is, the default one, which at first
-/// writes messages to standard error, has a screen of 96 dots an inch and an empty registry.
+/// The current process: the one installed last or, where there is none, the default one, which
+/// initially writes messages to standard error, has a screen of 96 dots an inch and an empty
+/// registry.
 Process& CurrentProcess();
 
 /// Replaces the default process for the rest of the program, which the new one must outlive. An
-/// installed process stays in force whatever the default is.
+/// installed process stays current whatever the default is.
 void DefaultProcess(Process& process);
 
-/// Puts a process in force for as long as this object lives, then the one before it again.
+/// Makes a process the current one for as long as this object lives, then restores the previous
+/// one.
 class InstalledProcess {
   public:
     explicit InstalledProcess(Process& process);

@@ -20,7 +20,7 @@ void Normalize(Decimal& decimal) {
     decimal.exponent = 0;
 }
 
-/// Takes the result of a conversion to scientific form apart: "-1.25e-07".
+/// Splits the result of a conversion to scientific form: "-1.25e-07".
 void SetFromScientific(Decimal& decimal, std::string_view text) {
     decimal.negative = text.front() == '-';
     if (decimal.negative) text.remove_prefix(1);

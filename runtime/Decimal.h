@@ -16,7 +16,7 @@ struct Decimal {
     /// The fewest digits that read back as the same value. Error 6 when it is not finite.
     explicit Decimal(Single value);
 
-    /// Rounds half away from zero to so many places after the point.
+    /// Rounds half away from zero to that many places after the point.
     void Round(int places);
     /// The digit that stands for 10^power; 0 outside of the digits.
     char DigitAt(int power) const;

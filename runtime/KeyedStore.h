@@ -33,7 +33,7 @@ class KeyedStore {
         Insert(nodes_.size(), key, std::move(item));
     }
 
-    /// Inserts so that the entry stands directly after `position`; position 0 is the front.
+    /// Inserts the entry directly after `position`; position 0 is the front.
     void InsertAfter(Long position, std::string_view key, Pointer item) {
         if (position < 0 || position > Count()) Raise(ErrorNumber::SubscriptOutOfRange);
         CloseHoles();
@@ -57,7 +57,7 @@ class KeyedStore {
         return found ? found->get() : nullptr;
     }
 
-    /// The object behind the one found last when its key is these two parts in a row, or null: a
+    /// The object after the one found last when its key is these two parts in a row, or null: a
     /// quick first try for look-ups in list order, which need not join the parts then.
     T* FindNext(std::string_view first, std::string_view rest) const {
         if (!IsEntry(expected_)) return nullptr;
@@ -88,7 +88,7 @@ class KeyedStore {
         NumberFrom(index);
     }
 
-    /// Takes the same time wherever the entry stands.
+    /// Takes the same time wherever the entry is.
     void Remove(std::string_view key) {
         const std::size_t index = NodeOf(key).index;
         byKey_.erase(nodes_[index]->key);

@@ -40,7 +40,7 @@ std::string_view TakeExponent(std::string_view& text) {
     return exponent;
 }
 
-/// Takes in the places before the point. Commas stand between two of them.
+/// Reads the places before the point. Commas may separate them.
 void ReadWhole(Picture& picture, std::string_view whole) {
     picture.grouped = whole.find(',') != whole.npos;
     if (whole.starts_with(',') || whole.ends_with(',')) Raise(ErrorNumber::InvalidProcedureCall);

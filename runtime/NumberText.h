@@ -34,15 +34,16 @@ Double LeadingNumber(std::string_view text);
 /// LeadingNumber as the nearest Single; error 6 when it is too large for one.
 Single LeadingSingle(std::string_view text);
 
-/// True when the whole text, blanks around it apart, is one decimal number that a Double can hold.
+/// True when the whole text, ignoring blanks around it, is one decimal number that a Double can
+/// hold.
 Boolean IsNumber(std::string_view text);
 
-/// The whole text, blanks around it apart, as a number. Error 13 when it is none, 6 when it is too
-/// large for a Double.
+/// The whole text, ignoring blanks around it, as a number. Error 13 when it is none, 6 when it is
+/// too large for a Double.
 Double ParseDouble(std::string_view text);
 
-/// The whole text, blanks around it apart, as a 32-bit number: decimal (halves to even), or
-/// hexadecimal with the prefix "&H", whose 32 bits are taken as they stand ("&HFFFFFFFF" is -1).
+/// The whole text, ignoring blanks around it, as a 32-bit number: decimal (halves to even), or
+/// hexadecimal with the prefix "&H", whose 32 bits are taken as is ("&HFFFFFFFF" is -1).
 /// Error 13 when it is no number, 6 when it does not fit.
 Long ParseLong(std::string_view text);
 

@@ -15,7 +15,7 @@ constexpr char ToUpperAscii(char c) { return c >= 'a' && c <= 'z' ? static_cast<
 /// A blank is a space, TAB, CR or LF.
 constexpr bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
-/// The part of the text that is left when blanks are taken off its start, its end, or both.
+/// The text without the blanks at its start, at its end, or at both.
 constexpr std::string_view TrimStart(std::string_view text) {
     while (!text.empty() && IsBlank(text.front()))
         text.remove_prefix(1);
@@ -31,10 +31,10 @@ constexpr std::string_view Trim(std::string_view text) { return TrimEnd(TrimStar
 String UpperText(std::string_view text);
 String LowerText(std::string_view text);
 
-/// True when the text begins with the prefix apart from letter case.
+/// True when the text begins with the prefix, ignoring letter case.
 bool StartsWithNoCase(std::string_view text, std::string_view prefix);
 
-/// True when both texts are the same apart from letter case.
+/// True when both texts are the same, ignoring letter case.
 inline bool EqualNoCase(std::string_view a, std::string_view b) {
     // Most texts that are compared are the same letter for letter.
     return a.size() == b.size() && (a == b || StartsWithNoCase(a, b));

@@ -25,7 +25,7 @@ namespace {
     Raise(missing);
 }
 
-/// Opens a file's bytes as they stand. Directories are refused before opening, because some
+/// Opens a file without translating line ends. Directories are refused before opening, because some
 /// platforms open them and fail only on reading.
 void Open(std::filebuf& file, const String& name, std::ios::openmode mode, ErrorNumber missing) {
     // A zero character would silently cut the name short.
@@ -130,7 +130,7 @@ class TextFile::LineBuffer {
     void SkipLineEnd() {
         if (at_ == end_) return;
         const bool cr = *at_++ == '\r';
-        // The LF of a CR LF may stand in the next block.
+        // The LF of a CR LF may be in the next block.
         if (cr && !AtEnd() && *at_ == '\n') ++at_;
     }
 

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <string_view>
 
-/// Taking texts apart and putting them in quotes. A blank is a space, TAB, CR or LF.
+/// Splits texts into words and puts them in quotes. A blank is a space, TAB, CR or LF.
 namespace zorvane {
 
 /// The text with every TAB, LF and CR replaced by a space.
@@ -17,7 +17,7 @@ String TrimLeadingBlanks(std::string_view s);
 String TrimTrailingBlanks(std::string_view s);
 String TrimBlanks(std::string_view s);
 
-/// Takes the next word off the text: skips leading blanks and gives what stands before the first
+/// Takes the next word off the text: skips leading blanks and returns what precedes the first
 /// space or TAB. The text keeps the rest from that delimiter on; without one it becomes empty.
 String NextWord(String& s);
 /// NextWord in upper case.
@@ -34,7 +34,7 @@ constexpr std::string_view NextWord(std::string_view& s) {
 }
 
 /// The text between a pair of marks. An opening bracket ( < [ { is closed by its counterpart;
-/// any other mark stands on both sides and is doubled inside.
+/// any other mark goes on both sides and is doubled inside.
 String QuoteText(std::string_view s, std::string_view q);
 
 /// The first letter in upper case, the others in lower case.

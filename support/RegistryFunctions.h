@@ -11,7 +11,7 @@
 namespace zorvane {
 
 /// The value as text, or `fallback` when the key or value is absent or has 256 bytes or more.
-/// Strings are read up to their first zero character, with environment references as they stand; a
+/// Strings are read up to their first zero character, with environment references unexpanded; a
 /// 32-bit number reads as "&H" and 8 hexadecimal digits; any other type as empty text. `valueType`
 /// receives the stored type when there is a value.
 String GetSettingEx(Long root, const String& key, const String& valueName, const String& fallback,
@@ -23,7 +23,8 @@ Boolean SaveSettingEx(Long root, const String& key, const String& valueName, con
 
 /// Lists the values of a key and returns how many there are: at most 51, and none from the first
 /// one on whose name has 256 characters or more or whose data has more than 256 bytes. Data come
-/// as they are stored, a terminating zero included. With a result of 0 both lists are left alone.
+/// as they are stored, a terminating zero included. With a result of 0 both lists are left
+/// unchanged.
 Integer EnumerateValues(Long root, const String& key, std::vector<String>& names,
                         std::vector<String>& values);
 

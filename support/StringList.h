@@ -16,7 +16,7 @@ class StringList {
     /// Set by everything that modifies the list; the owner clears it.
     Boolean Changed = false;
     /// The characters of the texts that were added and not dropped by the cap. Replacing and
-    /// removing single texts leaves it alone: owners that do so keep it right themselves.
+    /// removing single texts leaves it unchanged: owners that do so correct it themselves.
     Long Size = 0;
     /// What Size may come to; the last text is never dropped, however long it is.
     Long MaxSize = 65000;

@@ -17,7 +17,7 @@ class TStringPair {
 
     void Copy(const TStringPair& source) { *this = source; }
 
-    /// The name. A list that holds the pair goes on finding it under the name it was added with.
+    /// The name. A list that holds the pair still finds it under the name it was added with.
     const String& Name() const { return name_; }
     void Name(std::string_view value) { name_ = value; }
     const String& Value() const { return value_; }

@@ -34,8 +34,8 @@ class TStringPairList {
     /// comes with the quotes that it is written in. Errors of XMLFile; what was read until then
     /// stays.
     void ReadFromXML(XMLFile& x);
-    /// Writes the list as a section. Pairs whose value is their name apart from letter case are
-    /// left out: readers of such files take a name that is missing for one that stands for itself.
+    /// Writes the list as a section. Pairs whose value equals their name, ignoring letter case, are
+    /// left out: readers of such files take a missing name as its own value.
     void WriteToXML(XMLFile& x) const;
     /// Adds the pairs found in the key's subkey Entries, at most 51, and takes the name. The result
     /// is false whether it worked or not. Errors 13 and 6 for a stored count that is no 16-bit
@@ -54,9 +54,9 @@ class TStringPairList {
 
     std::shared_ptr<TStringPair> Pair(Long position) const;
     std::shared_ptr<TStringPair> Pair(std::string_view name) const;
-    /// The pair of this name, or null, whatever ErrorOnFail says.
+    /// The pair of this name, or null, regardless of ErrorOnFail.
     TStringPair* Find(std::string_view name) const { return pairs_.Find(name); }
-    /// The pair behind the one found last when its name is these two parts in a row, or null.
+    /// The pair after the one found last when its name is these two parts in a row, or null.
     TStringPair* FindNext(std::string_view first, std::string_view rest) const {
         return pairs_.FindNext(first, rest);
     }

@@ -32,11 +32,11 @@ class XMLFile {
     const String& SectionTagValue() const { return tagValue_; }
     const String& SectionTagName() const { return tagName_; }
 
-    /// Writes the start of a section; a tag stands behind its name as it is (`name="value"`).
+    /// Writes the start of a section; a tag follows its name verbatim (`name="value"`).
     void OpenXMLSection(std::string_view section, std::string_view tag = {});
     /// Writes the end of the innermost section. Without one it fails, and so does all that follows.
     void CloseXMLSection();
-    /// Writes a line as it is.
+    /// Writes a line verbatim.
     void WriteXMLData(std::string_view data);
     /// The text with & ' < > " as escapes, and back.
     static String StringToXML(std::string_view source);
@@ -68,7 +68,7 @@ class XMLFile {
     /// Goes to the next tag and gives its name, that of an end with its slash.
     String ReadXMLSectionHeader();
     /// The text up to the next tag, without its line breaks and the blanks around them. The end of
-    /// the innermost section is taken off with it.
+    /// the innermost section is consumed with it.
     String ReadXMLData();
 
     /// True from the first line on until the file is closed or cannot be written.

@@ -35,7 +35,7 @@ String XMLFile::ReadXMLSectionHeader() {
     buffer_.Take(buffer.find('<') + 1); // nothing when there is none
     const std::size_t end = buffer_.Rest().find('>');
     if (end == String::npos) {
-        // The text about the file stands where the source belongs: hosts show it as such.
+        // Source and text have changed places here; hosts show them that way.
         Raise(ErrorNumber::XMLBadTag, "Application-defined or object-defined error",
               "XML section header missing in file " + fileName_);
     }

@@ -19,7 +19,7 @@ Long PixelsOf(Single length, Single twipsPerPixel) {
     return pixels > 0 ? static_cast<Long>(std::min(pixels, kMostPixels)) : 0;
 }
 
-/// Takes the next value off a script, or gives the one that stands for "cancelled".
+/// Takes the next value from a script, or returns the one that means "cancelled".
 template <class T>
 T Next(std::deque<T>& script, T cancelled) {
     if (script.empty()) return cancelled;

@@ -6,8 +6,8 @@ namespace zorvane {
 
 namespace {
 
-/// Waits a little for another process, up to some ten seconds in all. SQLite's own way of waiting
-/// comes back ever more seldom, and hardly gets its turn beside a process that writes all the time.
+/// Waits briefly for another process, for about ten seconds in all. SQLite's own busy handler backs
+/// off further with every try and is starved by a process that writes all the time.
 int WaitForTurn(void* /*context*/, int tries) {
     constexpr int mostTries = 5000;
     if (tries >= mostTries) return 0;

@@ -19,7 +19,7 @@ class Database {
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
 
-    /// Opens a file for writing, or for reading alone where it can't be written; `create` makes a
+    /// Opens a file for writing, or for reading only where it can't be written; `create` makes a
     /// missing one. Other processes that hold it are waited for, up to a few seconds.
     int Open(const std::filesystem::path& path, bool create);
     bool IsReadOnly() const;
@@ -43,7 +43,7 @@ class Statement {
     /// Binds raw bytes, which must outlive the statement's steps.
     Statement& Bind(std::string_view bytes);
 
-    /// Goes to the next row, and tells whether there is one.
+    /// Moves to the next row; false when there is none.
     bool Next();
     /// Runs to the end; the code of what went wrong, or 0. What went wrong with making or binding
     /// the statement is told here too.

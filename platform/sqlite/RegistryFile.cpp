@@ -13,7 +13,7 @@ namespace zorvane {
 
 namespace {
 
-/// Marks the file as one of these, and tells how its tables are made.
+/// Marks the file as one of ours and names the version of its tables.
 constexpr std::int64_t kApplication = 0x5A727652; // "ZrvR"
 constexpr std::int64_t kVersion = 1;
 constexpr const char* kMakeTables =
@@ -97,8 +97,8 @@ Long Look(const fs::path& path) {
     return fs::is_regular_file(status) ? kRegistrySuccess : kRegistryAccessDenied;
 }
 
-/// Makes the folders that are missing, for this user alone as the desktop's rules want it, or for
-/// everybody to read.
+/// Makes the missing folders: private to this user, as the desktop's rules require, or readable by
+/// everybody.
 void MakeFolders(const fs::path& folder, bool forEverybody) {
     if (folder.empty() || fs::is_directory(folder)) return;
     MakeFolders(folder.parent_path(), forEverybody);

@@ -11,7 +11,7 @@
 namespace zorvane {
 
 /// A registry that outlives the process, for platforms that have none: kept in SQLite files, of
-/// which nothing is touched before the first call. docs/registry.md tells where they lie.
+/// which nothing is touched before the first call. docs/registry.md says where they are.
 ///
 /// HKEY_LOCAL_MACHINE is written to the machine's file or, by those who may not write there, to
 /// their own. A value in their own file comes before one of the same name in the machine's: without
