@@ -8,15 +8,15 @@ namespace zorvane {
 
 namespace {
 
-/// What a line says to the reader; empty for a blank one.
-String Meaning(std::string_view line) {
+/// The same text for lines that the reader takes for the same.
+String AsRead(std::string_view line) {
     line = Trim(line);
     if (line.substr(0, 1) == ";") return String(";").append(Trim(line.substr(1)));
     const LineParts parts(line);
     return UpperText(parts.keyword).append(" ").append(parts.argument);
 }
 
-std::vector<std::string_view> SayingLines(std::string_view definition) {
+std::vector<std::string_view> NonBlankLines(std::string_view definition) {
     std::vector<std::string_view> lines;
     for (const TextLine& line : LinesOf(definition))
         if (!Trim(line.text).empty()) lines.push_back(line.text);
@@ -26,14 +26,14 @@ std::vector<std::string_view> SayingLines(std::string_view definition) {
 } // namespace
 
 std::vector<ChangedLine> DefinitionDifference(std::string_view before, std::string_view after) {
-    const auto old = SayingLines(before);
-    const auto now = SayingLines(after);
+    const auto old = NonBlankLines(before);
+    const auto now = NonBlankLines(after);
     LineNumbering numbering;
     LineNumbers numbers;
     for (const std::string_view line : old)
-        numbers.before.push_back(numbering.NumberOf(Meaning(line)));
+        numbers.before.push_back(numbering.NumberOf(AsRead(line)));
     for (const std::string_view line : now)
-        numbers.after.push_back(numbering.NumberOf(Meaning(line)));
+        numbers.after.push_back(numbering.NumberOf(AsRead(line)));
 
     std::vector<ChangedLine> lines;
     std::size_t i = 0;

@@ -11,9 +11,9 @@ namespace zorvane {
 /// The texts that a definition has had, for undoing and redoing its edits.
 class DefinitionHistory {
   public:
-    /// Begins anew with a text, which is saved.
+    /// Starts over with a text, which is saved.
     void Begin(const String& text);
-    /// Adds an edit behind the present text, in place of what could be redone. The present text
+    /// Adds an edit after the present text, in place of what could be redone. The present text
     /// again is no edit.
     void Add(const String& text);
     void Undo();

@@ -11,8 +11,6 @@ namespace zorvane {
 
 namespace {
 
-bool IsComment(std::string_view line) { return TrimStart(line).substr(0, 1) == ";"; }
-
 /// Leaves out the last comment line with each of the texts, in any letter case: a comment that the
 /// reader makes of a line begins with the keyword, which the writer spells in its own way.
 String WithoutComments(const String& definition, const std::vector<String>& comments) {
@@ -76,8 +74,8 @@ String WithoutEchoes(const String& definition) {
     return WithoutComments(definition, CommentLines(PlateIn(others).Comment));
 }
 
-String WithoutCommentsBehind(const String& definition, const PlateBlock& block) {
-    return WithoutComments(definition, block.commentsBehind);
+String WithoutCommentsAfter(const String& definition, const PlateBlock& block) {
+    return WithoutComments(definition, block.commentsAfter);
 }
 
 } // namespace zorvane

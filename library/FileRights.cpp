@@ -54,7 +54,7 @@ bool CopyRights(const String& from, int toFile) {
     const AccessList list = AccessListOf(from);
     RemoveAccessList(toFile);
 
-    // Only a privileged program can give a file to another owner; the group alone may do.
+    // Only a privileged program can give a file to another owner. Its group may be possible.
     const bool sameOwner = ::fchown(toFile, status.st_uid, status.st_gid) == 0;
     const bool sameGroup =
         sameOwner || ::fchown(toFile, static_cast<uid_t>(-1), status.st_gid) == 0;

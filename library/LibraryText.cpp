@@ -21,8 +21,7 @@ constexpr Integer kOtherPlate = 1;
     throw RuntimeError(notPossible, "Zorvane", description);
 }
 
-bool IsComment(std::string_view line) { return TrimStart(line).substr(0, 1) == ";"; }
-bool SaysNothing(std::string_view line) { return Trim(line).empty() || IsComment(line); }
+bool IsBlankOrComment(std::string_view line) { return Trim(line).empty() || IsComment(line); }
 
 bool OpensPlate(std::string_view line) { return EqualNoCase(LineParts(line).keyword, "PLATE"); }
 
@@ -36,7 +35,7 @@ PlateBlock BlockIn(std::string_view read, std::size_t from) {
         if (!inPlate) block.begin = at;
         at += line.text.size() + line.end.size();
         inPlate = inPlate || OpensPlate(line.text);
-        if (!SaysNothing(line.text)) block.end = at;
+        if (!IsBlankOrComment(line.text)) block.end = at;
     }
     return block;
 }
@@ -73,7 +72,7 @@ std::optional<PlateBlock> LibraryText::Find(const String& name) const {
             block.definition = plate.Text();
             // The reader gathers comments in their order, so those of the block come first.
             const std::size_t own = PlateIn(String(Of(block))).Comment.size();
-            block.commentsBehind = CommentLines(std::string_view(plate.Comment).substr(own));
+            block.commentsAfter = CommentLines(std::string_view(plate.Comment).substr(own));
             return block;
         }
         if (result != kOtherPlate) return std::nullopt;
@@ -129,8 +128,8 @@ String LibraryText::Fitted(std::string_view definition, std::string_view lineEnd
 
 LibraryText LibraryText::WithReplaced(const String& definition) const {
     const PlateBlock old = Get(NameIn(definition));
-    String text = Fitted(WithoutCommentsBehind(WithoutEchoes(definition), old),
-                         LineEndAt(old.begin, old.end));
+    String text =
+        Fitted(WithoutCommentsAfter(WithoutEchoes(definition), old), LineEndAt(old.begin, old.end));
     const bool unended = Of(old).find_last_of("\r\n") + 1 != Of(old).size();
     if (unended) text = TrimEnd(text);
 

@@ -10,7 +10,7 @@ namespace {
 
 using Lines = std::span<const std::size_t>;
 
-/// Up to so many pairs of lines are compared one by one.
+/// Up to this number of pairs, lines are compared one by one.
 constexpr std::size_t kPairsAtMost = 4'000'000;
 
 class Comparison {
@@ -136,7 +136,7 @@ class Comparison {
     std::vector<std::uint32_t> lengths_;
 };
 
-/// Puts the removed lines of each change in front of the added ones.
+/// Puts the removed lines of each change before the added ones.
 void Sort(std::vector<LineChange>& changes) {
     auto from = changes.begin();
     while (from != changes.end()) {

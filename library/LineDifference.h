@@ -30,7 +30,7 @@ struct LineNumbers {
 std::vector<LineChange> Compare(const LineNumbers& lines);
 
 /// The difference of two definitions as a reader of them sees it: the letter case of keywords,
-/// indentation and blank lines count for nothing, and only lines that say something are listed.
+/// indentation and blank lines do not count, and blank lines are not listed.
 std::vector<ChangedLine> DefinitionDifference(std::string_view before, std::string_view after);
 
 /// The difference of two texts byte for byte in the unified form, with three lines around each

@@ -9,8 +9,8 @@ namespace {
 /// A file with a new name that goes away with this object unless it was moved to its place.
 class Temporary {
   public:
-    Temporary(FileLayer& files, const String& besides)
-        : files_(files), output_(files.CreateBeside(besides)) {}
+    Temporary(FileLayer& files, const String& target)
+        : files_(files), output_(files.CreateBeside(target)) {}
     ~Temporary() {
         if (moved_) return;
         const String path = output_->Path();
@@ -54,7 +54,7 @@ class Replacement {
             outcome_ = kUnchanged;
             files_.CheckWritable(target);
         }
-        step_ = "writing a temporary file beside it";
+        step_ = "writing a temporary file next to it";
         Temporary fresh(files_, target);
         fresh.Fill(bytes);
         if (expected) {

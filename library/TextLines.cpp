@@ -1,5 +1,7 @@
 #include "library/TextLines.h"
 
+#include "runtime/Text.h"
+
 #include <algorithm>
 #include <cstddef>
 
@@ -16,5 +18,7 @@ std::vector<TextLine> LinesOf(std::string_view text) {
     }
     return lines;
 }
+
+bool IsComment(std::string_view line) { return TrimStart(line).substr(0, 1) == ";"; }
 
 } // namespace zorvane

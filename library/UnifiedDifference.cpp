@@ -10,7 +10,7 @@ namespace {
 constexpr std::size_t kContext = 3;
 
 /// Lines with their line ends, so that another line end is a change too. To patching tools a CR
-/// alone ends no line.
+/// without LF ends no line.
 std::vector<String> WholeLines(std::string_view text) {
     std::vector<String> lines;
     while (!text.empty()) {
@@ -89,7 +89,7 @@ class Unified {
         return sign + text + (ended ? "" : "\n\\ No newline at end of file\n");
     }
 
-    /// The first line, from 1, and how many; an empty range names the line in front of it.
+    /// The first line, from 1, and how many; an empty range names the line before it.
     static String Range(std::size_t from, std::size_t to) {
         return std::to_string(from == to ? from : from + 1) + "," + std::to_string(to - from);
     }
@@ -106,7 +106,7 @@ class Unified {
 
 String UnifiedDifference(std::string_view before, std::string_view after, const String& name) {
     const String hunks = Unified(before, after).Text();
-    // Behind a tab, so that a name may have blanks in it.
+    // Followed by a tab, so that a name may have blanks in it.
     return hunks.empty() ? hunks : "--- " + name + "\t\n+++ " + name + "\t\n" + hunks;
 }
 

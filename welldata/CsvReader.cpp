@@ -59,7 +59,7 @@ String CsvReader::TakeQuoted(const CsvRecord& record) {
     if (at_ == text_.size()) FailAt(line, record.fields.size() + 1, "the quote is never closed");
     ++at_;
     if (!AtLineEnd() && text_[at_] != ',')
-        FailAt(line_, record.fields.size() + 1, "a comma is missing behind the closing quote");
+        FailAt(line_, record.fields.size() + 1, "a comma is missing after the closing quote");
     return field;
 }
 

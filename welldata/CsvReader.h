@@ -26,7 +26,7 @@ class CsvReader {
     explicit CsvReader(std::string_view text);
 
     /// Reads the next record; false at the end. Error 13 for a quote that is not closed, or for
-    /// text behind one that is.
+    /// text after one that is.
     bool Next(CsvRecord& record);
 
   private:

@@ -54,7 +54,7 @@ class Header {
                          [&](const char* candidate) { return EqualNoCase(candidate, name); });
         if (known == kNames.end()) {
             FailAt(line_, Count() + 1,
-                   "no column is known by " + Quoted(name) + "; there are " + AllNames());
+                   "there is no column " + Quoted(name) + "; the columns are " + AllNames());
         }
         const auto column = static_cast<Column>(known - kNames.begin());
         if (Has(column)) FailAt(line_, Count() + 1, "the column is there twice", *known);
@@ -101,8 +101,7 @@ class RowParser {
         const String legend = Trimmed(Well);
         const auto position = names_.FindPosition(legend);
         if (!position) Fail(Well, "the plate has no well " + Quoted(legend));
-        const int before = (ParseSubWell() - 1) * names_.Rows() * names_.Cols();
-        return static_cast<Integer>(before + *position);
+        return names_.WellNumber(*position, ParseSubWell());
     }
 
     Integer ParseSubWell() const {

@@ -12,7 +12,7 @@ namespace zorvane {
 
 /// The names of the wells of the plate that a control shows: positions by their row and column
 /// legends ("B3"), sub-wells by their own names. A plate on which two positions have the same
-/// legend names them by row and column, counted from 1 ("R2C3"). Made anew for each plate.
+/// legend names them by row and column, counted from 1 ("R2C3"). To be made again for each plate.
 class WellNames {
   public:
     /// Leaves the control's current well as it is, but chooses the first sub-well where none has
@@ -26,7 +26,7 @@ class WellNames {
     /// The legend of a well's position; empty for a number that is no well.
     String Position(Integer wellNo) const;
     String SubWell(Integer wellNo) const;
-    /// Both, as "B3, Drop1"; the position alone where there is one sub-well.
+    /// Both, as "B3, Drop1"; only the position where there is one sub-well.
     String Full(Integer wellNo) const;
 
     /// The index of a position (row times columns plus column), in any letter case unless the
@@ -35,9 +35,14 @@ class WellNames {
     /// The position from 1 of a sub-well, in any letter case.
     std::optional<Integer> FindSubWell(std::string_view name) const;
 
+    /// The number of the well that a sub-well has at a position.
+    Integer WellNumber(Integer position, Integer subWell) const {
+        return static_cast<Integer>((subWell - 1) * Rows() * Cols() + position);
+    }
+
   private:
     bool IsWell(Integer wellNo) const;
-    /// Tells whether every position has a key of its own.
+    /// Returns whether every position has a key of its own.
     bool IndexLegends();
     String Legend(Integer row, Integer col) const;
     String Key(std::string_view legend) const;

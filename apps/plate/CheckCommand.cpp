@@ -23,7 +23,7 @@ bool Check(const String& library) {
                         [](const Finding& finding) { return finding.severity == Severity::Error; });
 }
 
-/// Goes on with the next library where one cannot be read.
+/// Goes on with the next library when one cannot be read.
 ExitCode Run(const std::vector<String>& libraries) {
     bool good = true;
     for (const String& library : libraries) {
@@ -44,13 +44,13 @@ Command MakeCheckCommand(CLI::App& app) {
         app.add_subcommand("check", "Report what is wrong with plate libraries, line by line");
     auto libraries = std::make_shared<std::vector<String>>();
     parser->add_option("libraries", *libraries, "Plate library files")->required();
-    parser->footer(
-        "Errors are lines that end the search for plates or are not taken as written;\n"
-        "warnings are lines that hardly mean what they say. The exit status is 1 when there\n"
-        "are errors, 0 when there are none.\n"
-        "Examples:\n"
-        "  plate check Plates.Dat\n"
-        "  vim -q <(plate check Plates.Dat)");
+    parser->footer("Errors are lines that end the search for plates or are not taken as written;\n"
+                   "warnings are lines that probably do not mean what they say. The exit status is "
+                   "1 when there\n"
+                   "are errors, 0 when there are none.\n"
+                   "Examples:\n"
+                   "  plate check Plates.Dat\n"
+                   "  vim -q <(plate check Plates.Dat)");
     return {parser, [libraries] { return Run(*libraries); }};
 }
 

@@ -11,7 +11,7 @@ namespace zorvane {
 /// Raises a failure with a description for the user.
 [[noreturn]] void Fail(const String& description);
 
-/// Does something with a file and puts the file's name in front of what a failure says.
+/// Does something with a file and puts the file's name before the description of a failure.
 template <class Action>
 auto WithFile(const String& file, Action&& action) {
     try {

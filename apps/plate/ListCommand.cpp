@@ -1,6 +1,6 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
-#include "apps/plate/Table.h"
+#include "apps/plate/table/Table.h"
 #include "platetext/LibraryIndex.h"
 #include "runtime/Text.h"
 
@@ -20,8 +20,8 @@ Table TableOf(const LibraryListing& listing) {
     Table table{{"name", "rows", "columns", "subwells", "wells", "tags"}, {}};
     for (const LibraryEntry& plate : listing.plates) {
         if (!plate.found) continue;
-        const Long positions = Long{plate.rows} * plate.cols;
-        table.rows.push_back({plate.name, Long{plate.rows}, Long{plate.cols}, plate.subWells,
+        const std::int64_t positions = std::int64_t{plate.rows} * plate.cols;
+        table.rows.push_back({plate.name, plate.rows, plate.cols, plate.subWells,
                               positions * plate.subWells, plate.tags});
     }
     return table;

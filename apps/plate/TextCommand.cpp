@@ -15,7 +15,7 @@ struct Options {
 };
 
 /// The plate as its own lines give it: each plate is read into a new object, so that nothing of the
-/// plates in front of it shows.
+/// plates before it shows.
 std::unique_ptr<cmPlate> ReadAlone(const String& library, const String& name) {
     TextFile file;
     file.OpenInput(library);

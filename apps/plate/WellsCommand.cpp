@@ -1,8 +1,9 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
-#include "apps/plate/Table.h"
+#include "apps/plate/table/Table.h"
 #include "model/cmPlate.h"
 
+#include <limits>
 #include <memory>
 
 namespace zorvane {
@@ -21,8 +22,8 @@ std::vector<Cell> WellRow(const cmPlate& plate, Integer row, Integer col) {
     plate.WellEnvelope(row, col, low, high);
     const Coordinate centre = plate.WellCentroid(row, col);
     return {plate.WellLegend(row, col),
-            Long{row},
-            Long{col},
+            row,
+            col,
             centre.X(),
             centre.Y(),
             low.X(),
@@ -43,6 +44,8 @@ Table TableOf(const cmPlate& plate) {
 ExitCode Run(const Options& options) {
     cmPlate plate;
     if (!plate.SetPlate(options.plateLibrary, options.plate)) return kFailed;
+    if (Long{plate.Rows()} * plate.Cols() > std::numeric_limits<Integer>::max())
+        Fail(options.plate + ": a plate cannot have more than 32767 wells");
     const Table table = WithFile(options.plate, [&] { return TableOf(plate); });
     Print(TableText(table, options.form));
     return kDone;
@@ -52,7 +55,7 @@ ExitCode Run(const Options& options) {
 
 Command MakeWellsCommand(CLI::App& app) {
     auto* const parser =
-        app.add_subcommand("wells", "Tell where each well position of a plate lies");
+        app.add_subcommand("wells", "Show where each well position of a plate lies");
     auto options = std::make_shared<Options>();
     parser->add_option("library", options->plateLibrary, "Plate library file")->required();
     parser->add_option("plate", options->plate, "Name of the plate, in any letter case")

@@ -22,7 +22,7 @@ int Main(int argc, char** argv) {
     CLI::App app("Reads, checks, draws and changes plate libraries", "plate");
     app.set_version_flag("--version", "plate " PLATE_VERSION);
     app.require_subcommand(1);
-    app.footer("\"plate COMMAND --help\" tells more about a command.");
+    app.footer("\"plate COMMAND --help\" says more about a command.");
     const std::vector<Command> commands{MakeListCommand(app),  MakeTextCommand(app),
                                         MakeDrawCommand(app),  MakeWellsCommand(app),
                                         MakeCheckCommand(app), MakeEditCommand(app),

@@ -51,11 +51,5 @@ TEST(VolumeScale, KeepsZeroAndMissingApartFromAnyVolume) {
     EXPECT_NE(scale.ColorOf(0), plate.DefaultWellColor());
 }
 
-TEST(VolumeScale, ShowsASingleVolumeAsTheGreatest) {
-    LoadedPlate host;
-    host.plate.SetVolume(2, 5);
-    EXPECT_EQ(VolumeScale(host.plate, 1).ColorOf(5), VolumeScale::ColorAt(1));
-}
-
 } // namespace
 } // namespace zorvane

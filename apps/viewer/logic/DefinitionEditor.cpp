@@ -1,5 +1,6 @@
 #include "apps/viewer/logic/DefinitionEditor.h"
 
+#include "library/ReadBack.h"
 #include "platetext/EveryValue.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Text.h"
@@ -24,20 +25,14 @@ void CheckNothingLost(const cmPlate& plate, const cmPlate& shown) {
     }
 }
 
-bool IsComment(const String& line) { return TrimStart(line).substr(0, 1) == ";"; }
-
 /// A command that fails halfway, or that is given a name with a full stop, leaves the control with
 /// lines that a reader would not take for what they were.
 void CheckReadsBack(const String& definition) {
-    cmPlate again;
-    again.SetFromText(WithoutEchoes(definition));
-    for (const ChangedLine& line : DefinitionDifference(definition, again.Text())) {
-        if (line.change != LineChange::Removed || IsComment(line.text)) continue;
-        throw RuntimeError(static_cast<Long>(ErrorNumber::InvalidProcedureCall), "Zorvane",
-                           "\"" + NameIn(definition) + "\" was not saved: the line \"" +
-                               String(Trim(line.text)) +
-                               "\" could not be read back. Undo brings the plate back as it was.");
-    }
+    const String line = LineNotReadBack(definition);
+    if (line.empty()) return;
+    throw RuntimeError(static_cast<Long>(ErrorNumber::InvalidProcedureCall), "Zorvane",
+                       "\"" + NameIn(definition) + "\" was not saved: the line \"" + line +
+                           "\" could not be read back. Undo brings the plate back as it was.");
 }
 
 /// The text of a plate as a control gives it that has been given the plate.
@@ -65,7 +60,7 @@ String DefinitionEditor::Text() const { return WithoutEchoes(history_.Present())
 std::vector<ChangedLine> DefinitionEditor::Difference() const {
     const auto block = Library().Find(plate_);
     if (!block) return DefinitionDifference({}, Text());
-    return DefinitionDifference(Library().Of(*block), WithoutCommentsBehind(Text(), *block));
+    return DefinitionDifference(Library().Of(*block), WithoutCommentsAfter(Text(), *block));
 }
 
 void DefinitionEditor::Save() {
@@ -79,7 +74,7 @@ void DefinitionEditor::SaveAs(const String& name) {
     CheckReadsBack(definition);
     // The comments behind the old plate stay where they are.
     if (const auto old = Library().Find(plate_))
-        definition = WithoutCommentsBehind(definition, *old);
+        definition = WithoutCommentsAfter(definition, *old);
     document_->Save(Library().WithAppended(definition));
     plate_ = name;
     history_.Begin(definition);

@@ -10,7 +10,7 @@ namespace zorvane {
 /// the user where the plate does not allow it; the plate is then of no further use.
 using PlateEdit = std::function<void(cmPlate& plate)>;
 
-// The changes, from what is written behind their options; an argument of the wrong form is a
+// The changes, from the arguments of their options; an argument of the wrong form is a
 // failure here already. Sub-wells are named in any letter case.
 
 PlateEdit Rotation(const String& argument);

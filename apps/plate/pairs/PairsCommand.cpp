@@ -1,8 +1,8 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
-#include "apps/plate/RegistryPairs.h"
-#include "apps/plate/SavedPairs.h"
-#include "apps/plate/Table.h"
+#include "apps/plate/pairs/RegistryPairs.h"
+#include "apps/plate/pairs/SavedPairs.h"
+#include "apps/plate/table/Table.h"
 
 #include <filesystem>
 #include <memory>

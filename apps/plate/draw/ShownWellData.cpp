@@ -1,4 +1,4 @@
-#include "apps/plate/ShownWellData.h"
+#include "apps/plate/draw/ShownWellData.h"
 
 #include "runtime/NumberText.h"
 #include "welldata/WellDataCsv.h"
@@ -104,9 +104,8 @@ void ShownWellData::Show(Plate& plate, Integer well) {
     if (IsInError(plate, well)) {
         inError_.push_back(static_cast<std::size_t>(well));
     } else if (volume && ShowsVolumes()) {
-        plate.CurrentWell(well);
-        const auto subWell = static_cast<std::size_t>(plate.WellIndex() - 1);
-        plate.WellColor(std::to_string(scales_[subWell].scale.ColorOf(*volume)));
+        const auto subWell = static_cast<std::size_t>(well / (plate.Rows * plate.Cols));
+        plate.WellFill(well, scales_[subWell].scale.ColorOf(*volume));
     }
     plate.WellAnnotation(well, CaptionOf(plate, well));
 }

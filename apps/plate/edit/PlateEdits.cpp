@@ -1,4 +1,4 @@
-#include "apps/plate/PlateEdits.h"
+#include "apps/plate/edit/PlateEdits.h"
 
 #include "apps/plate/Files.h"
 #include "platetext/EveryValue.h"
@@ -14,7 +14,7 @@ namespace zorvane {
 
 namespace {
 
-/// The parts of a text between the marks, which must be so many.
+/// The parts of a text between the marks; there must be `count` of them.
 std::vector<String> PartsOf(const String& text, char mark, std::size_t count, const char* form) {
     std::vector<String> parts(1);
     for (const char c : text) {
@@ -28,21 +28,21 @@ std::vector<String> PartsOf(const String& text, char mark, std::size_t count, co
     return parts;
 }
 
-/// Tells in words what a number that is too large, or a label without an end, has made fail.
+/// Runs an action and explains the failures that come of numbers too large and of labels.
 template <class Action>
-auto InWords(const String& tooLarge, Action&& action) {
+auto RunExplained(const String& tooLarge, Action&& action) {
     try {
         return std::forward<Action>(action)();
     } catch (const RuntimeError& error) {
         if (error.Number() == static_cast<Long>(ErrorNumber::Overflow)) Fail(tooLarge);
         if (error.Number() != static_cast<Long>(ErrorNumber::InvalidProcedureCall)) throw;
-        Fail("there are no letters for so many rows");
+        Fail("there are no letters for that many rows");
     }
 }
 
 Single NumberIn(const String& text) {
     if (!IsNumber(text)) Fail("\"" + text + "\" is not a number");
-    return InWords("\"" + text + "\" is too large", [&] { return LeadingSingle(text); });
+    return RunExplained("\"" + text + "\" is too large", [&] { return LeadingSingle(text); });
 }
 
 std::pair<String, String> Pair(const String& text, char mark, const char* form) {
@@ -108,7 +108,7 @@ void Add(cmPlate& plate, const String& name, const String& from) {
 
 void Rotate(cmPlate& plate) {
     RecordEveryValue(plate);
-    InWords("a value would be too large", [&] { plate.Rotate90(); });
+    RunExplained("a value would be too large", [&] { plate.Rotate90(); });
 }
 
 } // namespace
@@ -120,7 +120,7 @@ PlateEdit Shift(const String& distances) {
     return
         [x = NumberIn(parts[0]), y = NumberIn(parts[1]), z = NumberIn(parts[2])](cmPlate& plate) {
             RecordEveryValue(plate);
-            InWords("a value would be too large", [&] { plate.ShiftWells(x, y, z); });
+            RunExplained("a value would be too large", [&] { plate.ShiftWells(x, y, z); });
         };
 }
 

@@ -15,7 +15,7 @@ struct RegistryPath {
 /// HKEY_LOCAL_MACHINE or HKLM. Raises a failure for the user where it is none.
 RegistryPath ParseRegistryPath(const String& text);
 
-/// The key with its root's whole name.
+/// The key with its root's whole name, or a number for a root that has none.
 String RegistryPathText(const RegistryPath& path);
 
 } // namespace zorvane

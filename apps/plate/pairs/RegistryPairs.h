@@ -1,6 +1,6 @@
 #pragma once
 
-#include "apps/plate/RegistryPath.h"
+#include "apps/plate/registry/RegistryPath.h"
 #include "support/TStringPairList.h"
 
 namespace zorvane {

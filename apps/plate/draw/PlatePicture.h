@@ -1,6 +1,6 @@
 #pragma once
 
-#include "apps/plate/ShownWellData.h"
+#include "apps/plate/draw/ShownWellData.h"
 #include "control/Plate.h"
 
 namespace zorvane {

@@ -1,4 +1,4 @@
-#include "apps/plate/SavedPairs.h"
+#include "apps/plate/pairs/SavedPairs.h"
 
 #include "apps/plate/Files.h"
 #include "library/DiskFiles.h"

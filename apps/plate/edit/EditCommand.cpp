@@ -1,10 +1,10 @@
 #include "apps/plate/Command.h"
-#include "apps/plate/EditedText.h"
 #include "apps/plate/Files.h"
-#include "apps/plate/PlateEdits.h"
+#include "apps/plate/edit/PlateEdits.h"
 #include "library/DiskFiles.h"
 #include "library/LibraryDocument.h"
 #include "library/LineDifference.h"
+#include "library/ReadBack.h"
 
 #include <iostream>
 #include <map>
@@ -24,7 +24,7 @@ struct EditOption {
 };
 
 constexpr EditOption kEditOptions[] = {
-    {"--rotate90", "", "Turn the plate by a quarter", Rotation},
+    {"--rotate90", "", "Turn the plate counter-clockwise by a quarter", Rotation},
     {"--shift", "X,Y,Z", "Move all sub-wells by millimetres; a positive Z raises their bottoms",
      Shift},
     {"--rename", "OLD=NEW", "Give a sub-well another name", Renaming},
@@ -78,7 +78,12 @@ String Edited(const LibraryText& library, const String& name, const std::vector<
     cmPlate plate = library.PlateOf(library.Get(name));
     for (const PlateEdit& edit : edits)
         edit(plate);
-    return TextOf(plate);
+    const String difference = ValueNotReadBack(plate);
+    if (!difference.empty()) {
+        Fail("the changed definition of \"" + plate.PlateName() +
+             "\" would be read back as another plate, " + difference);
+    }
+    return plate.Text();
 }
 
 ExitCode Run(const CLI::App& parser, const Options& options) {
@@ -120,7 +125,7 @@ Command MakeEditCommand(CLI::App& app) {
     parser->footer(
         "Changes can be given several times and are made in the order given. Without\n"
         "--in-place the new definition goes to standard output. The library keeps all its\n"
-        "other bytes, and what it held before stays beside it with \"~\" behind its name.\n"
+        "other bytes, and its previous content is kept next to it, with \"~\" after its name.\n"
         "Examples:\n"
         "  plate edit Plates.Dat Batch_96 --rotate90 --diff\n"
         "  plate edit Plates.Dat Batch_96 --rename Drop1=Drop --shift 0,0.5,0 --in-place");

@@ -1,10 +1,11 @@
-#include "apps/plate/RegistryPath.h"
+#include "apps/plate/registry/RegistryPath.h"
 
 #include "apps/plate/Files.h"
 #include "runtime/Text.h"
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 
 namespace zorvane {
 
@@ -27,7 +28,7 @@ Long RootNamed(const String& name, const String& text) {
             return EqualNoCase(name, r.name) || EqualNoCase(name, r.shortName);
         });
     if (found != std::end(kRoots)) return found->root;
-    // A shell takes backslashes away that it is not told to leave alone.
+    // A shell removes backslashes that are not quoted.
     Fail("<" + text +
          "> names no registry key: write ROOT\\KEY in single quotes, with "
          "HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER, HKEY_CLASSES_ROOT or HKEY_USERS as the root");
@@ -48,7 +49,9 @@ RegistryPath ParseRegistryPath(const String& text) {
 String RegistryPathText(const RegistryPath& path) {
     const auto* const root = std::find_if(std::begin(kRoots), std::end(kRoots),
                                           [&](const Root& r) { return r.root == path.root; });
-    return path.key.empty() ? root->name : String(root->name) + "\\" + path.key;
+    // A file that another program has made can have any.
+    const String name = root != std::end(kRoots) ? root->name : "root " + std::to_string(path.root);
+    return path.key.empty() ? name : name + "\\" + path.key;
 }
 
 } // namespace zorvane

@@ -1,4 +1,4 @@
-#include "apps/plate/Json.h"
+#include "apps/plate/table/Json.h"
 
 #include "runtime/Text.h"
 
@@ -29,7 +29,7 @@ String JsonString(std::string_view text) {
 }
 
 String JsonCell(const Cell& cell) {
-    if (const auto* const number = std::get_if<Long>(&cell)) return std::to_string(*number);
+    if (const auto* const number = std::get_if<std::int64_t>(&cell)) return std::to_string(*number);
     if (const auto* const number = std::get_if<Single>(&cell)) return MillimetreText(*number);
     return JsonString(std::get<String>(cell));
 }

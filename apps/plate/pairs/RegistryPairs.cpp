@@ -1,7 +1,7 @@
-#include "apps/plate/RegistryPairs.h"
+#include "apps/plate/pairs/RegistryPairs.h"
 
 #include "apps/plate/Files.h"
-#include "apps/plate/SavedPairs.h"
+#include "apps/plate/pairs/SavedPairs.h"
 #include "runtime/NumberText.h"
 #include "support/RegistryFunctions.h"
 

@@ -1,4 +1,4 @@
-#include "apps/plate/RegistryText.h"
+#include "apps/plate/registry/RegistryText.h"
 
 #include "runtime/Text.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "apps/plate/Table.h"
+#include "apps/plate/table/Table.h"
 
 namespace zorvane {
 

@@ -1,4 +1,4 @@
-#include "apps/plate/Csv.h"
+#include "apps/plate/table/Csv.h"
 
 #include "welldata/CsvReader.h"
 
@@ -7,7 +7,7 @@ namespace zorvane {
 namespace {
 
 String CsvCell(const Cell& cell) {
-    if (const auto* const number = std::get_if<Long>(&cell)) return std::to_string(*number);
+    if (const auto* const number = std::get_if<std::int64_t>(&cell)) return std::to_string(*number);
     if (const auto* const number = std::get_if<Single>(&cell)) return MillimetreText(*number);
     return CsvText(std::get<String>(cell));
 }

@@ -1,7 +1,7 @@
-#include "apps/plate/EditedText.h"
+#include "library/ReadBack.h"
 
-#include "apps/plate/Files.h"
 #include "library/LibraryText.h"
+#include "library/LineDifference.h"
 #include "library/TextLines.h"
 #include "platetext/LineParts.h"
 #include "runtime/Text.h"
@@ -14,8 +14,8 @@ namespace zorvane {
 
 namespace {
 
-/// The plate as its values say, without its comments, which grow where lines have trailing ones.
-String Values(cmPlate& plate) {
+/// The values of a plate, without its comments, which grow where lines have trailing ones.
+String ValuesOf(cmPlate& plate) {
     const String comment = std::exchange(plate.Comment, String());
     String values = plate.AsText();
     plate.Comment = comment;
@@ -25,7 +25,7 @@ String Values(cmPlate& plate) {
 String Quoted(std::string_view line) { return "\"" + String(Trim(line)) + "\""; }
 
 /// The first line that differs, and the sub-well that it is about.
-String Difference(const String& before, const String& after) {
+String FirstDifference(const String& before, const String& after) {
     const auto old = LinesOf(before);
     const auto now = LinesOf(after);
     const auto isWell = [](const TextLine& line) { return LineParts(line.text).keyword == "Well"; };
@@ -42,16 +42,21 @@ String Difference(const String& before, const String& after) {
 
 } // namespace
 
-String TextOf(cmPlate& plate) {
-    String text = plate.Text();
-    cmPlate again = PlateIn(text);
-    const String before = Values(plate);
-    const String after = Values(again);
-    if (after != before) {
-        Fail("the changed definition of \"" + plate.PlateName() +
-             "\" would be read back as another plate, " + Difference(before, after));
+String ValueNotReadBack(cmPlate& plate) {
+    cmPlate again = PlateIn(plate.Text());
+    const String before = ValuesOf(plate);
+    const String after = ValuesOf(again);
+    return after == before ? String() : FirstDifference(before, after);
+}
+
+String LineNotReadBack(const String& definition) {
+    cmPlate again;
+    again.SetFromText(WithoutEchoes(definition));
+    for (const ChangedLine& line : DefinitionDifference(definition, again.Text())) {
+        if (line.change == LineChange::Removed && !IsComment(line.text))
+            return String(Trim(line.text));
     }
-    return text;
+    return {};
 }
 
 } // namespace zorvane

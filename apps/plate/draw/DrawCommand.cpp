@@ -1,7 +1,8 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
-#include "apps/plate/PlatePicture.h"
+#include "apps/plate/draw/PlatePicture.h"
 #include "platform/memory/MemorySite.h"
+#include "runtime/NumberText.h"
 #include "welldata/WellNames.h"
 
 #include <cstdio>
@@ -48,6 +49,11 @@ String CheckSize(const String& text) {
     return "\"" + text + "\" is not a size from 50x50 to 2184x2184";
 }
 
+String CheckScale(const String& text) {
+    if (IsNumber(text) && LeadingNumber(text) > 0) return {};
+    return "\"" + text + "\" is not a number greater than 0";
+}
+
 /// The number of a well named by its legend, with the sub-well's name after a full stop.
 Integer WellNamed(const WellNames& names, const String& name) {
     const std::size_t stop = name.find('.');
@@ -58,7 +64,7 @@ Integer WellNamed(const WellNames& names, const String& name) {
         subWell = names.FindSubWell(name.substr(stop + 1));
     }
     if (!position || !subWell) Fail("the plate has no well " + name);
-    return static_cast<Integer>((*subWell - 1) * names.Rows() * names.Cols() + *position);
+    return names.WellNumber(*position, *subWell);
 }
 
 /// One picture in the making: a control without a window.
@@ -98,12 +104,12 @@ class Drawing {
         width_ = static_cast<Single>(size.width * kTwipsPerPixel);
         height_ = static_cast<Single>(size.height * kTwipsPerPixel);
         if (height_ < keyHeight_ + kFewestPixels * kTwipsPerPixel)
-            Fail("the size leaves no room for the plate beside the key of the data");
+            Fail("the size leaves no room for the plate next to the key of the data");
         site_.SetSize(width_, height_ - keyHeight_);
         plate_.FixedSize = true;
         plate_.HorizontalCentred = true;
         plate_.VerticalCentred = true;
-        // A layout fits the scale after it has sized the frame: a second one sizes it anew.
+        // A layout fits the scale after it has sized the frame: a second one sizes it again.
         for (int layouts = 0; layouts < 2; ++layouts)
             plate_.DrawingScale(plate_.DrawingScale());
     }
@@ -146,13 +152,14 @@ void AddOptions(CLI::App& parser, Options& options) {
     parser.add_option("-o,--output", options.output, "SVG file; standard output if left out or -");
     auto* const scale =
         parser.add_option("--scale", options.scale, "Drawing units (1/1440 inch) a millimetre")
-            ->check(CLI::PositiveNumber)
+            ->check(CheckScale, "NUMBER")
             ->capture_default_str();
     parser.add_option("--size", options.size, "Fit the plate into WxH pixels")
         ->check(CheckSize, "WxH")
         ->excludes(scale);
     parser.add_option("--select", options.selected, "Mark wells: A1,B2 or, in a sub-well, A1.Drop")
-        ->delimiter(',');
+        ->delimiter(',')
+        ->allow_extra_args(false);
     parser.add_option("--data", options.data, "Show data of wells from a CSV file");
 }
 

@@ -1,4 +1,4 @@
-#include "apps/plate/PlatePicture.h"
+#include "apps/plate/draw/PlatePicture.h"
 
 #include "drawing/PlatePainter.h"
 #include "drawing/SvgCanvas.h"

@@ -1,8 +1,8 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
-#include "apps/plate/RegistryPath.h"
-#include "apps/plate/RegistryText.h"
-#include "apps/plate/Table.h"
+#include "apps/plate/registry/RegistryPath.h"
+#include "apps/plate/registry/RegistryText.h"
+#include "apps/plate/table/Table.h"
 #include "platform/sqlite/SqliteRegistry.h"
 #include "runtime/Text.h"
 

@@ -1,7 +1,7 @@
-#include "apps/plate/Table.h"
+#include "apps/plate/table/Table.h"
 
-#include "apps/plate/Csv.h"
-#include "apps/plate/Json.h"
+#include "apps/plate/table/Csv.h"
+#include "apps/plate/table/Json.h"
 #include "runtime/NumberText.h"
 #include "runtime/Text.h"
 
@@ -15,7 +15,7 @@ constexpr std::size_t kGap = 2;
 
 String AlignedCell(const Cell& cell) {
     if (const auto* const text = std::get_if<String>(&cell)) return PrintableUtf8(*text);
-    if (const auto* const number = std::get_if<Long>(&cell)) return std::to_string(*number);
+    if (const auto* const number = std::get_if<std::int64_t>(&cell)) return std::to_string(*number);
     return FormatPicture(std::get<Single>(cell), "0.000");
 }
 

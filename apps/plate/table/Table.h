@@ -4,13 +4,14 @@
 
 #include <CLI/App.hpp>
 
+#include <cstdint>
 #include <variant>
 #include <vector>
 
 namespace zorvane {
 
-/// One value of a table. Lengths in mm are Singles.
-using Cell = std::variant<String, Long, Single>;
+/// One value of a table: a text, a count or a length in mm.
+using Cell = std::variant<String, std::int64_t, Single>;
 
 struct Table {
     std::vector<String> columns;
