@@ -24,9 +24,8 @@ TEST(DefinitionHistory, KnowsWhichOfItsTextsIsSaved) {
     history.Add("d"); // the saved text cannot be reached any more
     EXPECT_FALSE(history.CanRedo());
     EXPECT_FALSE(history.IsSaved());
-    history.Undo();
-    history.Undo();
-    history.Undo();
+    for (int i = 0; i < 3; ++i)
+        history.Undo();
     EXPECT_EQ(history.Present(), "a");
     EXPECT_FALSE(history.IsSaved());
 }

@@ -32,8 +32,7 @@ std::string AnswerTo(const std::string& command) {
 
 std::string Replayed(const std::string& transcript) {
     std::istringstream lines(transcript);
-    std::string replayed;
-    std::string command;
+    std::string replayed, command;
     for (std::string line; std::getline(lines, line);) {
         const bool goesOn = line.starts_with('>') && !command.empty();
         if (!goesOn && !command.empty()) replayed += AnswerTo(std::exchange(command, {}));
