@@ -17,7 +17,7 @@ String WithoutComments(const String& definition, const std::vector<String>& comm
     std::vector<TextLine> lines = LinesOf(definition);
     for (const String& comment : comments) {
         const auto same = std::find_if(lines.rbegin(), lines.rend(), [&](const TextLine& line) {
-            return IsComment(line.text) &&
+            return IsCommentLine(line.text) &&
                    EqualNoCase(Trim(TrimStart(line.text).substr(1)), comment);
         });
         if (same != lines.rend()) lines.erase(std::next(same).base());
@@ -70,7 +70,7 @@ std::vector<String> CommentLines(std::string_view comment) {
 String WithoutEchoes(const String& definition) {
     String others;
     for (const TextLine& line : LinesOf(definition))
-        if (!IsComment(line.text)) others.append(line.text).append(line.end);
+        if (!IsCommentLine(line.text)) others.append(line.text).append(line.end);
     return WithoutComments(definition, CommentLines(PlateIn(others).Comment));
 }
 

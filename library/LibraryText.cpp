@@ -2,8 +2,8 @@
 
 #include "library/TextLines.h"
 #include "model/cmPlate.h"
-#include "platetext/LineCode.h"
 #include "platetext/LineParts.h"
+#include "platetext/ReadResult.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Text.h"
 
@@ -14,14 +14,12 @@ namespace zorvane {
 
 namespace {
 
-constexpr Integer kOtherPlate = 1;
-
 [[noreturn]] void Fail(const String& description) {
     constexpr Long notPossible = 1102;
     throw RuntimeError(notPossible, "Zorvane", description);
 }
 
-bool IsBlankOrComment(std::string_view line) { return Trim(line).empty() || IsComment(line); }
+bool IsBlankOrComment(std::string_view line) { return Trim(line).empty() || IsCommentLine(line); }
 
 bool OpensPlate(std::string_view line) { return EqualNoCase(LineParts(line).keyword, "PLATE"); }
 
@@ -43,12 +41,12 @@ PlateBlock BlockIn(std::string_view read, std::size_t from) {
 /// Why the reader stops at a line, by what it answers.
 String StopReason(Integer code) {
     switch (code) {
-    case kOtherPlate:
-    case 0:
+    case kOtherPlateRead:
+    case kPlateRead:
         return {};
-    case -1:
+    case kStoppedAtInclude:
         return "an INCLUDE line";
-    case kFailed:
+    case kStoppedAtFailedLine:
         return "a line that cannot be taken as written";
     default:
         return "a line outside any plate";
@@ -65,7 +63,7 @@ std::optional<PlateBlock> LibraryText::Find(const String& name) const {
         cmPlate plate;
         const auto from = static_cast<std::size_t>(file.Position());
         const Integer result = plate.ReadNextPlate(file, name);
-        if (result == 0) {
+        if (result == kPlateRead) {
             const auto to = static_cast<std::size_t>(file.Position());
             PlateBlock block = BlockIn(std::string_view(bytes_).substr(from, to - from), from);
             block.name = plate.PlateName();
@@ -75,7 +73,7 @@ std::optional<PlateBlock> LibraryText::Find(const String& name) const {
             block.commentsAfter = CommentLines(std::string_view(plate.Comment).substr(own));
             return block;
         }
-        if (result != kOtherPlate) return std::nullopt;
+        if (result != kOtherPlateRead) return std::nullopt;
     }
     return std::nullopt;
 }
@@ -86,8 +84,8 @@ String LibraryText::WhyNotFound(const String& name) const {
         return reason + " that can be found, because it begins with a byte order mark";
     TextFile file;
     file.OpenText(bytes_);
-    Integer result = kOtherPlate;
-    while (!file.AtEnd() && (result == kOtherPlate || result == 0))
+    Integer result = kOtherPlateRead;
+    while (!file.AtEnd() && (result == kOtherPlateRead || result == kPlateRead))
         result = cmPlate().ReadNextPlate(file);
     const String stop = StopReason(result);
     if (stop.empty()) return reason;

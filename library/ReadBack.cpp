@@ -53,7 +53,7 @@ String LineNotReadBack(const String& definition) {
     cmPlate again;
     again.SetFromText(WithoutEchoes(definition));
     for (const ChangedLine& line : DefinitionDifference(definition, again.Text())) {
-        if (line.change == LineChange::Removed && !IsComment(line.text))
+        if (line.change == LineChange::Removed && !IsCommentLine(line.text))
             return String(Trim(line.text));
     }
     return {};

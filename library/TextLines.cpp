@@ -1,7 +1,5 @@
 #include "library/TextLines.h"
 
-#include "runtime/Text.h"
-
 #include <algorithm>
 #include <cstddef>
 
@@ -18,7 +16,5 @@ std::vector<TextLine> LinesOf(std::string_view text) {
     }
     return lines;
 }
-
-bool IsComment(std::string_view line) { return TrimStart(line).substr(0, 1) == ";"; }
 
 } // namespace zorvane

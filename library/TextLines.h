@@ -14,7 +14,4 @@ struct TextLine {
 /// The lines of a text, as a library file is cut into lines; they look into the text.
 std::vector<TextLine> LinesOf(std::string_view text);
 
-/// Whether a line of a definition is a comment and nothing else.
-bool IsComment(std::string_view line);
-
 } // namespace zorvane

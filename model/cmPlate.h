@@ -7,10 +7,14 @@
 #include "runtime/Types.h"
 #include "support/TStringPairList.h"
 
+#include <cstdint>
 #include <memory>
 #include <string_view>
 
 namespace zorvane {
+
+enum class Keyword : std::uint8_t;
+enum class LineCode : Long;
 
 /// The system's mark for "no value", where an empty text is a value: the character ESC.
 inline constexpr const char* kNoValue = "\x1B";
@@ -185,10 +189,15 @@ class cmPlate {
     // --- The definition as text ---
 
     /// Reads lines of an open file until one plate is complete, and leaves the file at the line
-    /// that begins the next one. The result is 0 for a plate (of this name, when one is given), 1
-    /// for a plate of another name, -1 for an INCLUDE line outside a plate, 6 for any other stray
-    /// line, 7 for a line that failed, or the error number of a failure to read the file.
+    /// that begins the next one. The result is a ReadResult, which tells a plate of this name, when
+    /// one is given, from another one, or the error number of a failure to read the file.
     Integer ReadNextPlate(TextFile& file, String name = {});
+    /// The steps of reading, for callers that look at every line: BeginReading forgets the plate
+    /// that was being read, its tags, its comment and the status; ReadLine applies one line,
+    /// without its line end, and returns what it turned out to be. A plate that is complete, as
+    /// LineCode says, is followed by BeginReading and the line that completed it.
+    void BeginReading();
+    LineCode ReadLine(std::string_view line);
     /// Loads one definition from text with CR LF line ends; stops at the first unknown keyword.
     /// What the text does not mention keeps its value.
     void SetFromText(String text);
@@ -211,8 +220,6 @@ class cmPlate {
 
   private:
     class LineReader;
-    /// Feeds the reader line by line, to report what becomes of each.
-    friend class LibraryChecker;
 
     /// What the reader keeps from one line to the next.
     struct ReaderState {
@@ -229,17 +236,17 @@ class cmPlate {
     static String SubWellText(const WellDetails& subWell, std::string_view indent);
 
     std::shared_ptr<WellDetails> Current() const { return layout_->Item(subWell_); }
-    void RecordCurrent(std::string_view name, std::string_view value);
+    /// A value of the plate as it is recorded and written.
+    String ValueText(Keyword keyword) const;
+    void Record(Keyword keyword, Integer position = 0);
+    void SetCurrent(Keyword keyword, Single value);
+    void RecordCurrent(Keyword keyword);
     void RecordLikeParent(const String& name, const String& parentPrefix);
-    void RenameBlock(const WellDetails& subWell, const String& newName);
+    void RenameBlock(const String& name, const String& newName);
     void Rotate90(const WellDetails& well);
 
-    /// Forgets the line that was read last, and the tags.
-    void BeginReading();
-    /// Applies one line of a definition, without CR and LF; the result is a LineCode.
-    Long ParsePlateLine(std::string_view line);
     /// Applies the lines of a text for as long as the codes of the lines are at most this one.
-    void ReadLines(std::string_view text, Long lastCode);
+    void ReadLines(std::string_view text, LineCode lastCode);
     Integer ReadPlate(TextFile& file);
 
     String plateName_;

@@ -7,8 +7,6 @@
 #include "runtime/Text.h"
 #include "runtime/TextFunctions.h"
 
-#include <algorithm>
-#include <array>
 #include <optional>
 
 namespace zorvane {
@@ -17,39 +15,8 @@ namespace {
 
 using Kind = ArgumentKind;
 
-constexpr KeywordTraits kTraits[] = {
-    {"PLATE", Kind::Name},
-    {"ROWS", Kind::Whole},
-    {"COLS", Kind::Whole},
-    {"ROWLABEL", Kind::Label},
-    {"COLLABEL", Kind::Label},
-    {"XPITCH", Kind::Number},
-    {"YPITCH", Kind::Number},
-    {"XOVERALL", Kind::Number},
-    {"YOVERALL", Kind::Number},
-    {"HEIGHT", Kind::Number},
-    {"SHELFDEPTH", Kind::Number},
-    {"TAG", Kind::Tag},
-    {"TAGLIST", Kind::TagList},
-    {"XYZ", Kind::Coordinates},
-    {"XYZV", Kind::Coordinates},
-    {"WELL", Kind::Name},
-    {"STYLE", Kind::Style, true},
-    {"XOFFSET", Kind::Number, true},
-    {"YOFFSET", Kind::Number, true},
-    {"DEPTH", Kind::Number, true},
-    {"WELLDIAMETER", Kind::Number, true},
-    {"WELLSIZEX", Kind::Number, true},
-    {"WELLSIZEY", Kind::Number, true},
-    {"RIMWIDTH", Kind::Number, true},
-    {"RIMHEIGHT", Kind::Number, true},
-    {"RIMCENTERX", Kind::Number, true},
-    {"RIMCENTERY", Kind::Number, true},
-    {"VOLUME", Kind::Number, true},
-};
-
 bool BeginsComment(std::string_view word) {
-    return !word.empty() && (word.front() == ';' || word.front() == '\'');
+    return !word.empty() && kCommentMarks.find(word.front()) != kCommentMarks.npos;
 }
 
 /// The value of a word; nothing when it is too large for a Single.
@@ -74,7 +41,8 @@ class Check {
   public:
     Check(const KeywordTraits& traits, const LineParts& parts, const SourceLine& line,
           FindingList& findings)
-        : keyword_(traits.name), parts_(parts), line_(line), findings_(findings) {}
+        : keyword_(traits.keyword), name_(traits.name), parts_(parts), line_(line),
+          findings_(findings) {}
 
     void Run(Kind kind) {
         if (parts_.argument.empty() || BeginsComment(parts_.first)) return Missing(kind);
@@ -92,16 +60,16 @@ class Check {
         const std::string_view part = parts_.argument.empty() ? parts_.keyword : parts_.first;
         if (kind == Kind::Name && !parts_.argument.empty())
             return findings_.Error(line_, part, "\"" + Shown(part) + "\" is taken as the name");
-        if (keyword_ == "PLATE")
+        if (keyword_ == Keyword::Plate)
             return findings_.Error(line_, part, "a plate without a name can never be found");
-        if (keyword_ == "WELL") {
+        if (keyword_ == Keyword::Well) {
             return findings_.Warning(line_, part,
                                      "WELL without a name begins the sub-well DEFAULT");
         }
         if (kind == Kind::Label || kind == Kind::Style || kind == Kind::Whole ||
             kind == Kind::Number)
-            return findings_.Error(line_, part, String(keyword_) + " needs a value");
-        findings_.Warning(line_, part, String(keyword_) + " without a value");
+            return findings_.Error(line_, part, String(name_) + " needs a value");
+        findings_.Warning(line_, part, String(name_) + " without a value");
     }
 
     void Number(std::string_view word, bool whole) const {
@@ -118,7 +86,8 @@ class Check {
         String message =
             "\"" + Shown(word) + "\" is not a number: it counts as " + SingleText(value);
         if (word.find(',') != word.npos) message += "; the decimal mark is a point";
-        if (word.find_first_of(";'") != word.npos) message += "; a comment needs a blank before it";
+        if (word.find_first_of(kCommentMarks) != word.npos)
+            message += "; a comment needs a blank before it";
         findings_.Error(line_, word, std::move(message));
     }
 
@@ -130,7 +99,7 @@ class Check {
     }
 
     void GluedComment() const {
-        const std::size_t mark = parts_.first.find_first_of(";'");
+        const std::size_t mark = parts_.first.find_first_of(kCommentMarks);
         if (mark == parts_.first.npos) return;
         findings_.Warning(line_, parts_.first.substr(mark),
                           "part of the name: a comment needs a blank before it");
@@ -139,7 +108,7 @@ class Check {
     void Surplus() const {
         if (parts_.surplus.empty()) return;
         findings_.Warning(line_, parts_.surplus,
-                          "ignored: only the first word after " + String(keyword_) + " counts");
+                          "ignored: only the first word after " + String(name_) + " counts");
     }
 
     void Tag() const {
@@ -160,7 +129,7 @@ class Check {
     }
 
     void Coordinates() const {
-        if (parts_.keyword != keyword_) {
+        if (parts_.keyword != name_) {
             findings_.Warning(line_, parts_.keyword,
                               "never used: coordinate keywords count in upper case only");
         }
@@ -172,27 +141,20 @@ class Check {
             const std::optional<Single> value = ValueOf(word);
             if (!value || (i == 0 && !FitsInteger(*value))) {
                 findings_.Error(line_, word,
-                                "too large: where " + String(keyword_) +
+                                "too large: where " + String(name_) +
                                     " is the coordinate system, every search ends here");
             }
         }
     }
 
-    std::string_view keyword_;
+    Keyword keyword_;
+    std::string_view name_;
     const LineParts& parts_;
     const SourceLine& line_;
     FindingList& findings_;
 };
 
 } // namespace
-
-const KeywordTraits* FindTraits(std::string_view keyword) {
-    const auto found =
-        std::find_if(std::begin(kTraits), std::end(kTraits), [keyword](const KeywordTraits& each) {
-            return EqualNoCase(each.name, keyword);
-        });
-    return found == std::end(kTraits) ? nullptr : found;
-}
 
 void CheckArgument(const KeywordTraits& traits, const LineParts& parts, const SourceLine& line,
                    FindingList& findings) {
@@ -201,7 +163,7 @@ void CheckArgument(const KeywordTraits& traits, const LineParts& parts, const So
 
 String ReasonOfFailure(const KeywordTraits& traits, const LineParts& parts) {
     const String quoted = "\"" + Shown(parts.first) + "\"";
-    if (traits.name == "WELL") return "the plate has a sub-well " + quoted + " already";
+    if (traits.keyword == Keyword::Well) return "the plate has a sub-well " + quoted + " already";
     if (!ValueOf(parts.first)) return quoted + " is too large a number";
     return quoted + " is outside of -32768 to 32767";
 }

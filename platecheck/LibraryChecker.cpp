@@ -1,6 +1,5 @@
 #include "platecheck/LibraryChecker.h"
 
-#include "platetext/LineCode.h"
 #include "runtime/Text.h"
 
 #include <utility>
@@ -17,29 +16,29 @@ String PlateCount(Long count) {
 
 } // namespace
 
-Long LibraryChecker::Feed() { return plate_.ParsePlateLine(Trim(line_.text)); }
+LineCode LibraryChecker::Feed() { return plate_.ReadLine(Trim(line_.text)); }
 
 void LibraryChecker::Read(String& line) {
     ++line_.number;
     line_.text.swap(line);
     const LineParts parts(line_.text);
-    Long code = Feed();
-    if (code == kPlateComplete) {
+    LineCode code = Feed();
+    if (code == LineCode::PlateComplete) {
         ClosePlate();
         // The next look-up begins with the line that completed the plate.
         code = Feed();
     }
     switch (code) {
-    case kPlateOpened:
+    case LineCode::PlateOpened:
         return OpenPlate(parts);
-    case kApplied:
-    case kFailed:
-        return ReadKeyword(parts, code == kFailed);
-    case kUnknownKeyword:
+    case LineCode::Applied:
+    case LineCode::Failed:
+        return ReadKeyword(parts, code == LineCode::Failed);
+    case LineCode::UnknownKeyword:
         return UnknownKeyword(parts);
-    case kIncludeOutside:
+    case LineCode::IncludeOutside:
         return AddStop("INCLUDE is not followed and ends every search of the library", false);
-    case kStrayLine:
+    case LineCode::StrayLine:
         return StrayLine(parts);
     default:
         return;
@@ -55,7 +54,7 @@ void LibraryChecker::OpenPlate(const LineParts& parts) {
     lines_.subWells.clear();
     givenInSubWell_.clear();
     plate_.Properties.Clear();
-    CheckArgument(*FindTraits("PLATE"), parts, line_, findings_);
+    CheckArgument(TraitsOf(Keyword::Plate), parts, line_, findings_);
 
     const auto [known, isNew] = plateNames_.emplace(LowerText(parts.first), line_.number);
     if (!isNew && !parts.first.empty()) {
@@ -73,8 +72,8 @@ void LibraryChecker::ClosePlate() {
 }
 
 void LibraryChecker::ReadKeyword(const LineParts& parts, bool failed) {
-    const KeywordTraits* const traits = FindTraits(parts.keyword);
-    if (!traits) return;
+    const KeywordTraits* const traits = FindKeyword(parts.keyword);
+    if (!traits || traits->argument == ArgumentKind::Ignored) return;
     CheckArgument(*traits, parts, line_, findings_);
     NoteRepetition(*traits, parts);
     if (failed) {
@@ -90,9 +89,9 @@ void LibraryChecker::ReadKeyword(const LineParts& parts, bool failed) {
 /// Remembers where a value is given, and reports one that replaces an earlier one.
 void LibraryChecker::NoteRepetition(const KeywordTraits& traits, const LineParts& parts) {
     using Kind = ArgumentKind;
-    if (traits.name == "WELL") return givenInSubWell_.clear();
+    if (traits.keyword == Keyword::Well) return givenInSubWell_.clear();
     if (traits.argument == Kind::Tag || traits.argument == Kind::TagList) return;
-    SourceLine& given = (traits.ofSubWell ? givenInSubWell_ : lines_.values)[traits.name];
+    SourceLine& given = (traits.ofSubWell ? givenInSubWell_ : lines_.values)[traits.keyword];
     if (given.number != 0) {
         findings_.Warning(line_, parts.keyword,
                           "replaces the " + String(traits.name) + " of line " +
@@ -128,7 +127,9 @@ void LibraryChecker::StrayLine(const LineParts& parts) {
         return AddStop("END ends every search of the library", false);
     if (parts.keyword.starts_with(kByteOrderMark))
         return AddStop("a byte order mark is read as text", false);
-    if (FindTraits(parts.keyword)) return AddStop(shown + " outside of a plate", false);
+    const KeywordTraits* const traits = FindKeyword(parts.keyword);
+    if (traits && traits->argument != ArgumentKind::Ignored)
+        return AddStop(shown + " outside of a plate", false);
     AddStop("stray text " + shown + " outside of a plate", false);
 }
 

@@ -4,9 +4,9 @@
 #include "platecheck/ArgumentCheck.h"
 #include "platecheck/FindingList.h"
 #include "platecheck/PlateCheck.h"
+#include "platetext/LineCode.h"
 
 #include <map>
-#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -23,7 +23,7 @@ class LibraryChecker {
     std::vector<Finding> Finish() &&;
 
   private:
-    /// Something that ends every look-up, and what it says once the plates behind it are counted.
+    /// Something that ends every look-up, reported once the plates after it have been counted.
     struct Stop {
         SourceLine line;
         String reason;
@@ -31,7 +31,7 @@ class LibraryChecker {
         bool insidePlate;
     };
 
-    Long Feed();
+    LineCode Feed();
     void OpenPlate(const LineParts& parts);
     void ClosePlate();
     void ReadKeyword(const LineParts& parts, bool failed);
@@ -49,7 +49,7 @@ class LibraryChecker {
     bool broken_ = false; ///< a line of the plate failed
     Long plates_ = 0;
     PlateLines lines_;
-    std::map<std::string_view, SourceLine> givenInSubWell_;
+    std::map<Keyword, SourceLine> givenInSubWell_;
     std::unordered_map<String, Long> plateNames_; ///< line numbers by lower case name
     std::vector<Stop> stops_;
 };

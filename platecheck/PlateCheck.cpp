@@ -1,5 +1,6 @@
 #include "platecheck/PlateCheck.h"
 
+#include "platecheck/WellPlaces.h"
 #include "platetext/LineParts.h"
 #include "runtime/NumberText.h"
 #include "runtime/RuntimeError.h"
@@ -13,8 +14,10 @@ namespace zorvane {
 namespace {
 
 /// What a plate keeps from the one read before it when it does not give them.
-constexpr std::string_view kKept[] = {"ROWS",   "COLS",     "ROWLABEL", "COLLABEL", "XPITCH",
-                                      "YPITCH", "XOVERALL", "YOVERALL", "HEIGHT"};
+constexpr Keyword kKept[] = {
+    Keyword::Rows,   Keyword::Cols,     Keyword::RowLabel, Keyword::ColLabel, Keyword::XPitch,
+    Keyword::YPitch, Keyword::XOverall, Keyword::YOverall, Keyword::Height,
+};
 
 class Check {
   public:
@@ -27,46 +30,48 @@ class Check {
         SubWellSizes();
         if (!sound) return;
         NumberOfWells();
-        Labels("ROWLABEL", plate_.RowLabel(), plate_.Rows(), &cmPlate::RowLegend);
-        Labels("COLLABEL", plate_.ColumnLabel(), plate_.Cols(), &cmPlate::ColumnLegend);
+        Labels(Keyword::RowLabel, plate_.RowLabel(), plate_.Rows(), &cmPlate::RowLegend);
+        Labels(Keyword::ColLabel, plate_.ColumnLabel(), plate_.Cols(), &cmPlate::ColumnLegend);
         CheckWellPlaces(plate_, lines_, findings_);
     }
 
   private:
     void Omitted() {
         String names;
-        for (const std::string_view name : kKept)
-            if (!lines_.values.contains(name)) names.append(names.empty() ? "" : ", ").append(name);
+        for (const Keyword keyword : kKept) {
+            if (lines_.values.contains(keyword)) continue;
+            names.append(names.empty() ? "" : ", ").append(TraitsOf(keyword).name);
+        }
         if (!names.empty()) {
-            Report(Severity::Warning, {},
+            Report(Severity::Warning, Keyword::Plate,
                    "not given and kept from the plate before, if any: " + names);
         }
     }
 
     /// Whether the plate can be shown at all.
     bool Grid() {
-        const bool found[] = {Above0("ROWS", plate_.Rows()),
-                              Above0("COLS", plate_.Cols()),
-                              Above0("XOVERALL", plate_.xOverall()),
-                              Above0("YOVERALL", plate_.yOverall()),
-                              Pitch("XPITCH", plate_.XPitch(), plate_.Cols()),
-                              Pitch("YPITCH", plate_.YPitch(), plate_.Rows())};
+        const bool found[] = {Above0(Keyword::Rows, plate_.Rows()),
+                              Above0(Keyword::Cols, plate_.Cols()),
+                              Above0(Keyword::XOverall, plate_.xOverall()),
+                              Above0(Keyword::YOverall, plate_.yOverall()),
+                              Pitch(Keyword::XPitch, plate_.XPitch(), plate_.Cols()),
+                              Pitch(Keyword::YPitch, plate_.YPitch(), plate_.Rows())};
         return std::all_of(std::begin(found), std::end(found), [](bool good) { return good; });
     }
 
-    bool Above0(std::string_view name, Double value) {
+    bool Above0(Keyword keyword, Double value) {
         if (value > 0) return true;
-        Report(Severity::Error, name,
-               "cannot be shown: " + String(name) + " is " + GeneralText(value));
+        Report(Severity::Error, keyword,
+               "cannot be shown: " + NameOf(keyword) + " is " + GeneralText(value));
         return false;
     }
 
     /// A single row or column needs a pitch too: rims are cut to it, and clicks divided by it.
-    bool Pitch(std::string_view name, Double value, Integer count) {
+    bool Pitch(Keyword keyword, Double value, Integer count) {
         if (value > 0) return true;
         const bool single = count == 1 && value == 0;
-        Report(single ? Severity::Warning : Severity::Error, name,
-               String(name) + " is " + GeneralText(value) +
+        Report(single ? Severity::Warning : Severity::Error, keyword,
+               NameOf(keyword) + " is " + GeneralText(value) +
                    ": rims are drawn wrong and a click on the plate fails" +
                    (single ? ", even with one place only" : ""));
         return single;
@@ -75,9 +80,9 @@ class Check {
     void NumberOfWells() {
         const std::int64_t wells =
             std::int64_t{plate_.Rows()} * plate_.Cols() * plate_.CompoundWell()->Count();
-        if (wells == 0) Report(Severity::Warning, {}, "the plate has no sub-well");
+        if (wells == 0) Report(Severity::Warning, Keyword::Plate, "the plate has no sub-well");
         if (wells > std::numeric_limits<Integer>::max()) {
-            Report(Severity::Error, {},
+            Report(Severity::Error, Keyword::Plate,
                    "too large to be shown: " + std::to_string(wells) +
                        " wells, of which 32767 can be numbered");
         }
@@ -95,13 +100,13 @@ class Check {
     }
 
     /// Labels that cannot be made, or that count down past the first letter or number.
-    void Labels(std::string_view keyword, const String& first, Integer count,
+    void Labels(Keyword keyword, const String& first, Integer count,
                 String (cmPlate::*legend)(Integer) const) {
         try {
             const String last = (plate_.*legend)(static_cast<Integer>(count - 1));
             if (!CountsPastStart(first, last)) return;
             Report(Severity::Warning, keyword,
-                   String(keyword) + " " + Shown(first) + " counts down, to " + Shown(last) +
+                   NameOf(keyword) + " " + Shown(first) + " counts down, to " + Shown(last) +
                        ": only 1, A and a count up");
         } catch (const RuntimeError&) {
             Report(Severity::Error, keyword,
@@ -110,6 +115,8 @@ class Check {
         }
     }
 
+    static String NameOf(Keyword keyword) { return String(TraitsOf(keyword).name); }
+
     static bool CountsPastStart(std::string_view first, std::string_view last) {
         if (IsNumber(first)) return LeadingNumber(last) < 1;
         const bool lower = first.front() >= 'a';
@@ -117,7 +124,7 @@ class Check {
     }
 
     /// At the value of a keyword where the plate gives it, otherwise at the plate's name.
-    void Report(Severity severity, std::string_view keyword, String message) {
+    void Report(Severity severity, Keyword keyword, String message) {
         const auto given = lines_.values.find(keyword);
         const SourceLine& line = given == lines_.values.end() ? lines_.plate : given->second;
         findings_.Add(severity, line, LineParts(line.text).first, std::move(message));

@@ -1,4 +1,5 @@
-#include "platecheck/PlateCheck.h"
+#include "platecheck/WellPlaces.h"
+
 #include "platecheck/WellOutline.h"
 #include "platetext/LineParts.h"
 #include "runtime/NumberText.h"

@@ -1,17 +1,77 @@
+#include "platetext/Keywords.h"
+
 #include "model/WellStyle.h"
-#include "platetext/LineReader.h"
 #include "runtime/NumberText.h"
 #include "runtime/Text.h"
-#include "runtime/TextFunctions.h"
-#include "support/TStringPair.h"
 
 #include <array>
 #include <iterator>
 
-/// What each keyword of a definition does inside a plate.
 namespace zorvane {
 
 namespace {
+
+using Kind = ArgumentKind;
+
+constexpr KeywordTraits SubWellNumber(Keyword keyword, std::string_view name,
+                                      std::string_view written,
+                                      Single (WellDetails::*number)() const,
+                                      void (WellDetails::*setNumber)(Single)) {
+    return {keyword, name, written, Kind::Number, true, number, setNumber};
+}
+
+/// In the order of the enumeration.
+constexpr KeywordTraits kKeywords[] = {
+    {Keyword::Rows, "ROWS", "Rows", Kind::Whole},
+    {Keyword::Cols, "COLS", "Cols", Kind::Whole},
+    {Keyword::RowLabel, "ROWLABEL", "RowLabel", Kind::Label},
+    {Keyword::ColLabel, "COLLABEL", "ColLabel", Kind::Label},
+    {Keyword::XPitch, "XPITCH", "Xpitch", Kind::Number},
+    {Keyword::YPitch, "YPITCH", "Ypitch", Kind::Number},
+    {Keyword::XOverall, "XOVERALL", "Xoverall", Kind::Number},
+    {Keyword::YOverall, "YOVERALL", "Yoverall", Kind::Number},
+    {Keyword::Height, "HEIGHT", "Height", Kind::Number},
+    {Keyword::ShelfDepth, "SHELFDEPTH", "ShelfDepth", Kind::Number},
+    {Keyword::Tag, "TAG", "", Kind::Tag},
+    {Keyword::TagList, "TAGLIST", "TAGLIST", Kind::TagList},
+    {Keyword::Xyz, "XYZ", "", Kind::Coordinates},
+    {Keyword::Xyzv, "XYZV", "", Kind::Coordinates},
+    {Keyword::Well, "WELL", "Well", Kind::Name},
+    {Keyword::Style, "STYLE", "Style", Kind::Style, true},
+    SubWellNumber(Keyword::XOffset, "XOFFSET", "Xoffset", &WellDetails::xOffset,
+                  &WellDetails::xOffset),
+    SubWellNumber(Keyword::YOffset, "YOFFSET", "Yoffset", &WellDetails::yOffset,
+                  &WellDetails::yOffset),
+    SubWellNumber(Keyword::Depth, "DEPTH", "Depth", &WellDetails::Depth, &WellDetails::Depth),
+    SubWellNumber(Keyword::WellDiameter, "WELLDIAMETER", "", nullptr, &WellDetails::WellDiameter),
+    SubWellNumber(Keyword::WellSizeX, "WELLSIZEX", "WellSizeX", &WellDetails::WellSizeX,
+                  &WellDetails::WellSizeX),
+    SubWellNumber(Keyword::WellSizeY, "WELLSIZEY", "WellSizeY", &WellDetails::WellSizeY,
+                  &WellDetails::WellSizeY),
+    SubWellNumber(Keyword::RimWidth, "RIMWIDTH", "RimWidth", &WellDetails::RimWidth,
+                  &WellDetails::RimWidth),
+    SubWellNumber(Keyword::RimHeight, "RIMHEIGHT", "RimHeight", &WellDetails::RimHeight,
+                  &WellDetails::RimHeight),
+    SubWellNumber(Keyword::RimCenterX, "RIMCENTERX", "RimCenterX", &WellDetails::RimCenterX,
+                  &WellDetails::RimCenterX),
+    SubWellNumber(Keyword::RimCenterY, "RIMCENTERY", "RimCenterY", &WellDetails::RimCenterY,
+                  &WellDetails::RimCenterY),
+    SubWellNumber(Keyword::Volume, "VOLUME", "Volume", &WellDetails::MaxVolume,
+                  &WellDetails::MaxVolume),
+    {Keyword::MoatDepth, "MOATDEPTH", ""},
+    {Keyword::MoatRadius, "MOATRADIUS", ""},
+    {Keyword::Plate, "PLATE", "Plate", Kind::Name},
+    {Keyword::End, "END", ""},
+    {Keyword::Include, "INCLUDE", ""},
+};
+
+static_assert(
+    [] {
+        for (std::size_t at = 0; at < std::size(kKeywords); ++at)
+            if (kKeywords[at].keyword != static_cast<Keyword>(at)) return false;
+        return true;
+    }(),
+    "the table has the order of the enumeration");
 
 /// Where the search for a keyword begins; any letter case gives the same place.
 constexpr std::size_t SlotOf(std::string_view word, std::size_t slots) {
@@ -24,139 +84,41 @@ constexpr std::size_t SlotOf(std::string_view word, std::size_t slots) {
            slots;
 }
 
+// Hashed with open addressing, filled by the compiler and half full. A slot holds the position of
+// a keyword counted from 1; 0 is a free one.
+constexpr auto kSlots = [] {
+    std::array<unsigned char, 2 * std::size(kKeywords)> filled{};
+    for (std::size_t position = 1; position <= std::size(kKeywords); ++position) {
+        std::size_t at = SlotOf(kKeywords[position - 1].name, filled.size());
+        while (filled[at] != 0)
+            at = (at + 1) % filled.size();
+        filled[at] = static_cast<unsigned char>(position);
+    }
+    return filled;
+}();
+
 } // namespace
 
-const cmPlate::LineReader::Keyword& cmPlate::LineReader::FindKeyword(std::string_view word) {
-    using Line = LineReader;
-    static constexpr auto nothing = [](Line&) {};
-    static constexpr Keyword unknown{"", nothing, kUnknownKeyword};
-    static constexpr Keyword keywords[] = {
-        {"XYZ", [](Line& line) { line.ReadCoordinates(); }},
-        {"XYZV", [](Line& line) { line.ReadCoordinates(); }},
-        {"TAG", [](Line& line) { line.ReadTag(); }, kApplied, false},
-        {"TAGLIST", [](Line& line) { line.ReadTagList(); }, kApplied, false},
-        {"COLS", [](Line& line) { line.plate_.cols_ = line.WholeValue(); }},
-        {"ROWS", [](Line& line) { line.plate_.rows_ = line.WholeValue(); }},
-        {"COLLABEL", [](Line& line) { line.ReadColumnLabel(); }},
-        {"ROWLABEL", [](Line& line) { line.ReadRowLabel(); }},
-        {"XPITCH", [](Line& line) { line.plate_.xPitch_ = line.Value(); }},
-        {"YPITCH", [](Line& line) { line.plate_.yPitch_ = line.Value(); }},
-        {"XOVERALL", [](Line& line) { line.plate_.xOverall_ = line.Value(); }},
-        {"YOVERALL", [](Line& line) { line.plate_.yOverall_ = line.Value(); }},
-        {"HEIGHT", [](Line& line) { line.plate_.height_ = line.Value(); }},
-        {"SHELFDEPTH", [](Line& line) { line.ReadShelfDepth(); }},
-        {"WELL", [](Line& line) { line.ReadWell(); }},
-        {"STYLE", [](Line& line) { line.ReadStyle(); }},
-        {"XOFFSET", [](Line& line) { line.SubWell().xOffset(line.Value()); }},
-        {"YOFFSET", [](Line& line) { line.SubWell().yOffset(line.Value()); }},
-        {"DEPTH", [](Line& line) { line.SubWell().Depth(line.Value()); }},
-        {"WELLDIAMETER", [](Line& line) { line.SubWell().WellDiameter(line.Value()); }},
-        {"WELLSIZEX", [](Line& line) { line.SubWell().WellSizeX(line.Value()); }},
-        {"WELLSIZEY", [](Line& line) { line.SubWell().WellSizeY(line.Value()); }},
-        {"RIMHEIGHT", [](Line& line) { line.SubWell().RimHeight(line.Value()); }},
-        {"RIMWIDTH", [](Line& line) { line.ReadRimWidth(); }},
-        {"RIMCENTERX", [](Line& line) { line.SubWell().RimCenterX(line.Value()); }},
-        {"RIMCENTERY", [](Line& line) { line.SubWell().RimCenterY(line.Value()); }},
-        {"VOLUME", [](Line& line) { line.SubWell().MaxVolume(line.Value()); }},
-        {"MOATDEPTH", nothing},
-        {"MOATRADIUS", nothing},
-        {"END", nothing, kPlateComplete, false},
-        {"PLATE", nothing, kPlateComplete, false},
-        {"INCLUDE", nothing, kPlateComplete, false},
-    };
+const KeywordTraits& TraitsOf(Keyword keyword) {
+    return kKeywords[static_cast<std::size_t>(keyword)];
+}
 
-    // Hashed with open addressing, filled by the compiler and at most half full. A slot holds the
-    // position of a keyword counted from 1; 0 is a free one.
-    using Slots = std::array<unsigned char, 2 * std::size(keywords)>;
-    static constexpr Slots slots = [] {
-        Slots filled{};
-        for (std::size_t position = 1; position <= std::size(keywords); ++position) {
-            std::size_t at = SlotOf(keywords[position - 1].name, filled.size());
-            while (filled[at] != 0)
-                at = (at + 1) % filled.size();
-            filled[at] = static_cast<unsigned char>(position);
-        }
-        return filled;
-    }();
-    for (std::size_t at = SlotOf(word, slots.size()); slots[at] != 0;
-         at = (at + 1) % slots.size()) {
-        const Keyword& keyword = keywords[slots[at] - 1];
-        if (EqualNoCase(keyword.name, word)) return keyword;
+const KeywordTraits* FindKeyword(std::string_view word) {
+    if (word.empty()) return nullptr;
+    for (std::size_t at = SlotOf(word, kSlots.size()); kSlots[at] != 0;
+         at = (at + 1) % kSlots.size()) {
+        const KeywordTraits& traits = kKeywords[kSlots[at] - 1];
+        if (EqualNoCase(traits.name, word)) return &traits;
     }
-    return unknown;
+    return nullptr;
 }
 
-void cmPlate::LineReader::ReadCoordinates() {
-    plate_.available_ = false;
-    if (UpperText(plate_.CoordinateSystem) != keyword_) return;
-    plate_.available_ = true;
-    if (!firstArgument_.empty()) plate_.defaultRotation_ = WholeValue();
-    // The first number is the rotation and X both: existing libraries are written that way.
-    std::array<Single, 3> coordinates{};
-    std::string_view words = argument_;
-    commentPlace_ = {};
-    for (Single& each : coordinates) {
-        const std::string_view word = NextWord(words);
-        if (word.empty()) break;
-        each = LeadingSingle(word);
-        commentPlace_ = word;
+String SubWellValueText(const WellDetails& subWell, Keyword keyword) {
+    if (keyword == Keyword::Style) {
+        const WellStyle* const style = FindWellStyle(subWell.Style());
+        return style ? String(style->name) : String();
     }
-    plate_.defaultX_ = coordinates[0];
-    plate_.defaultY_ = coordinates[1];
-    plate_.defaultZ_ = coordinates[2];
-}
-
-void cmPlate::LineReader::ReadTag() {
-    AddTag(argument_);
-    RecordTags();
-}
-
-void cmPlate::LineReader::ReadTagList() {
-    std::string_view words = argument_;
-    for (auto word = NextWord(words); !word.empty() && word.front() != ';'; word = NextWord(words))
-        AddTag(word);
-    commentPlace_ = {};
-    RecordTags();
-}
-
-void cmPlate::LineReader::AddTag(std::string_view tag) {
-    plate_.Tags.Add(std::make_shared<TStringPair>(String(tag), String(tag)));
-}
-
-void cmPlate::LineReader::RecordTags() { Record("TAGLIST", plate_.TagListText(), -1); }
-
-void cmPlate::LineReader::ReadColumnLabel() {
-    plate_.columnLabel_ = firstArgument_;
-    plate_.columnDirection_ = DirectionOf(firstArgument_);
-}
-
-void cmPlate::LineReader::ReadRowLabel() {
-    plate_.rowLabel_ = firstArgument_;
-    plate_.rowDirection_ = DirectionOf(firstArgument_);
-}
-
-void cmPlate::LineReader::ReadShelfDepth() {
-    // Libraries write -0.5 for "no shelf".
-    const Single value = Value();
-    plate_.shelfDepth_ = value == -0.5F ? kNoShelf : value;
-}
-
-void cmPlate::LineReader::ReadWell() {
-    const std::string_view name = firstArgument_.empty() ? kDefaultSubWell : firstArgument_;
-    StartSubWell(name);
-    plate_.reader_.prefix.assign(name).append(".");
-}
-
-void cmPlate::LineReader::ReadStyle() {
-    WellDetails& subWell = SubWell();
-    if (const auto code = WellStyleCode(firstArgument_)) subWell.Style(*code);
-}
-
-void cmPlate::LineReader::ReadRimWidth() {
-    WellDetails& subWell = SubWell();
-    const Single width = Value();
-    subWell.RimWidth(width);
-    if (subWell.RimHeight() == 0) subWell.RimHeight(width);
+    return FormatPicture((subWell.*TraitsOf(keyword).number)(), "0.00");
 }
 
 } // namespace zorvane

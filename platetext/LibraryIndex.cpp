@@ -1,7 +1,6 @@
 #include "platetext/LibraryIndex.h"
 
 #include "model/cmPlate.h"
-#include "platetext/LineCode.h"
 #include "runtime/Text.h"
 #include "runtime/TextFile.h"
 #include "runtime/TextFunctions.h"
@@ -52,7 +51,7 @@ LibraryListing ListLibrary(const String& fileName) {
     LineFollower follower(fileName);
     TextFile file;
     file.OpenInput(fileName);
-    while (listing.code == 0 && !file.AtEnd()) {
+    while (listing.code == kPlateRead && !file.AtEnd()) {
         cmPlate plate;
         listing.code = plate.ReadNextPlate(file);
         const Long plateLine = follower.FollowTo(file.Position());
@@ -60,13 +59,14 @@ LibraryListing ListLibrary(const String& fileName) {
             LibraryEntry entry = EntryOf(plate, plateLine);
             // A look-up takes the first plate of a name, and none without a name.
             const bool firstOfName = names.insert(LowerText(entry.name)).second;
-            entry.found = listing.code == 0 && firstOfName && !entry.name.empty();
+            entry.found = listing.code == kPlateRead && firstOfName && !entry.name.empty();
             listing.plates.push_back(std::move(entry));
         }
     }
-    if (listing.code != 0) {
-        // A stray or failed line has been read, any other stop is in front of its line.
-        const bool lineRead = listing.code == kStrayLine || listing.code == kFailed;
+    if (listing.code != kPlateRead) {
+        // A stray or failed line has been read, any other stop is before its line.
+        const bool lineRead =
+            listing.code == kStoppedAtStrayLine || listing.code == kStoppedAtFailedLine;
         listing.stoppedAtLine = follower.LinesRead() + (lineRead ? 0 : 1);
     }
     return listing;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platetext/ReadResult.h"
 #include "runtime/Types.h"
 
 #include <vector>
@@ -20,10 +21,10 @@ struct LibraryEntry {
 /// The plates of a library in file order, up to where a look-up by name stops reading.
 struct LibraryListing {
     std::vector<LibraryEntry> plates;
-    /// The number of the line that hides everything after it, and what cmPlate::ReadNextPlate said
-    /// of it; 0 and 0 when the whole file was read.
+    /// The number of the line that hides everything after it, and what cmPlate::ReadNextPlate
+    /// returned for it; 0 and kPlateRead when the whole file was read.
     Long stoppedAtLine = 0;
-    Integer code = 0;
+    Integer code = kPlateRead;
 };
 
 /// Reads a library by the rules of the look-up. Errors of TextFile::OpenInput when the file cannot

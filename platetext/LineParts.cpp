@@ -11,7 +11,7 @@ LineParts::LineParts(std::string_view line) {
     std::string_view words = argument;
     first = NextWord(words);
     rest = Trim(words);
-    surplus = TrimEnd(rest.substr(0, rest.find_first_of(";'")));
+    surplus = TrimEnd(rest.substr(0, rest.find_first_of(kCommentMarks)));
 }
 
 } // namespace zorvane

@@ -1,23 +1,23 @@
 #include "platetext/LineReader.h"
 
-#include "runtime/NumberText.h"
-#include "runtime/Rounding.h"
+#include "model/WellStyle.h"
+#include "platetext/LineParts.h"
 #include "runtime/Text.h"
 #include "runtime/TextFunctions.h"
 #include "support/TStringPair.h"
 
 #include <algorithm>
+#include <array>
 
-/// The anatomy of a line: keyword, argument, trailing comment, and how it is recorded.
 namespace zorvane {
 
-Long cmPlate::LineReader::Read(std::string_view line) {
+LineCode cmPlate::LineReader::Read(std::string_view line) {
     line = TrimStart(line);
-    if (line.empty()) return kNothing;
-    if (line.front() == ';') {
+    if (line.empty()) return LineCode::Empty;
+    if (IsCommentLine(line)) {
         if (plate_.reader_.inPlate)
             plate_.Comment.append(Blanked(Trim(line.substr(1)))).append("\r\n");
-        return kNothing;
+        return LineCode::Empty;
     }
     keyword_ = NextWord(line);
     TakeArgument(Trim(line));
@@ -40,11 +40,12 @@ std::string_view cmPlate::LineReader::Blanked(std::string_view text) {
     return copy;
 }
 
-Long cmPlate::LineReader::ReadOutsidePlate() {
-    if (EqualNoCase(keyword_, "INCLUDE")) return kIncludeOutside;
-    if (!EqualNoCase(keyword_, "PLATE")) return kStrayLine;
+LineCode cmPlate::LineReader::ReadOutsidePlate() {
+    const KeywordTraits* const traits = FindKeyword(keyword_);
+    if (traits && traits->keyword == Keyword::Include) return LineCode::IncludeOutside;
+    if (!traits || traits->keyword != Keyword::Plate) return LineCode::StrayLine;
     OpenPlate();
-    return kPlateOpened;
+    return LineCode::PlateOpened;
 }
 
 void cmPlate::LineReader::OpenPlate() {
@@ -62,19 +63,34 @@ void cmPlate::LineReader::OpenPlate() {
     plate_.reader_.inPlate = true;
 }
 
-Long cmPlate::LineReader::ReadInsidePlate() {
-    const Keyword& keyword = FindKeyword(keyword_);
-    keyword.apply(*this);
+LineCode cmPlate::LineReader::ReadInsidePlate() {
+    const KeywordTraits* const traits = FindKeyword(keyword_);
+    if (traits && traits->ofSubWell) ReadSubWellValue(*traits);
+    if (traits && !traits->ofSubWell) ReadPlateValue(traits->keyword);
     AppendTrailingComment();
-    if (keyword.recorded) Record(keyword_, argument_);
-    return keyword.code;
+    if (!traits) {
+        Record(keyword_, argument_);
+        return LineCode::UnknownKeyword;
+    }
+    switch (traits->keyword) {
+    case Keyword::End:
+    case Keyword::Plate:
+    case Keyword::Include:
+        return LineCode::PlateComplete;
+    case Keyword::Tag:
+    case Keyword::TagList:
+        return LineCode::Applied; // all tags are recorded together
+    default:
+        Record(keyword_, argument_);
+        return LineCode::Applied;
+    }
 }
 
 void cmPlate::LineReader::AppendTrailingComment() {
-    const std::size_t mark = commentPlace_.find_first_of(";'");
+    const std::size_t mark = commentPlace_.find_first_of(kCommentMarks);
     if (mark == commentPlace_.npos) return;
     String& comment = plate_.Comment;
-    if (!EqualNoCase(keyword_, "PLATE"))
+    if (!EqualNoCase(keyword_, TraitsOf(Keyword::Plate).name))
         comment.append(keyword_).append(" ").append(firstArgument_).append(" : ");
     comment.append(Trim(commentPlace_.substr(mark + 1))).append("\r\n");
 }
@@ -88,10 +104,6 @@ void cmPlate::LineReader::Record(std::string_view name, std::string_view value, 
     plate_.SetProperty(fullName, value, position);
 }
 
-Single cmPlate::LineReader::Value() const { return LeadingSingle(firstArgument_); }
-
-Integer cmPlate::LineReader::WholeValue() const { return ToInteger(Value()); }
-
 WellDetails& cmPlate::LineReader::SubWell() {
     // The recorded properties of a DEFAULT made here stand at plate level: the prefix stays.
     if (!plate_.reader_.subWell) StartSubWell(kDefaultSubWell);
@@ -102,6 +114,124 @@ void cmPlate::LineReader::StartSubWell(std::string_view name) {
     auto subWell = std::make_shared<WellDetails>();
     subWell->WellName(name);
     plate_.reader_.subWell = plate_.layout_->AddSubWell(subWell, -1);
+}
+
+void cmPlate::LineReader::ReadPlateValue(Keyword keyword) {
+    switch (keyword) {
+    case Keyword::Rows:
+        plate_.rows_ = WholeValue();
+        break;
+    case Keyword::Cols:
+        plate_.cols_ = WholeValue();
+        break;
+    case Keyword::RowLabel:
+        return ReadRowLabel();
+    case Keyword::ColLabel:
+        return ReadColumnLabel();
+    case Keyword::XPitch:
+        plate_.xPitch_ = Value();
+        break;
+    case Keyword::YPitch:
+        plate_.yPitch_ = Value();
+        break;
+    case Keyword::XOverall:
+        plate_.xOverall_ = Value();
+        break;
+    case Keyword::YOverall:
+        plate_.yOverall_ = Value();
+        break;
+    case Keyword::Height:
+        plate_.height_ = Value();
+        break;
+    case Keyword::ShelfDepth:
+        return ReadShelfDepth();
+    case Keyword::Tag:
+        return ReadTag();
+    case Keyword::TagList:
+        return ReadTagList();
+    case Keyword::Xyz:
+    case Keyword::Xyzv:
+        return ReadCoordinates();
+    case Keyword::Well:
+        return ReadWell();
+    default:
+        break;
+    }
+}
+
+void cmPlate::LineReader::ReadSubWellValue(const KeywordTraits& traits) {
+    WellDetails& subWell = SubWell();
+    if (traits.keyword == Keyword::Style) {
+        if (const auto code = WellStyleCode(firstArgument_)) subWell.Style(*code);
+        return;
+    }
+    const Single value = Value();
+    (subWell.*traits.setNumber)(value);
+    // A rim that is given one thickness has it on all sides.
+    if (traits.keyword == Keyword::RimWidth && subWell.RimHeight() == 0) subWell.RimHeight(value);
+}
+
+void cmPlate::LineReader::ReadColumnLabel() {
+    plate_.columnLabel_ = firstArgument_;
+    plate_.columnDirection_ = DirectionOf(firstArgument_);
+}
+
+void cmPlate::LineReader::ReadRowLabel() {
+    plate_.rowLabel_ = firstArgument_;
+    plate_.rowDirection_ = DirectionOf(firstArgument_);
+}
+
+void cmPlate::LineReader::ReadShelfDepth() {
+    // Libraries write -0.5 for "no shelf".
+    const Single value = Value();
+    plate_.shelfDepth_ = value == -0.5F ? kNoShelf : value;
+}
+
+void cmPlate::LineReader::ReadCoordinates() {
+    plate_.available_ = false;
+    if (UpperText(plate_.CoordinateSystem) != keyword_) return;
+    plate_.available_ = true;
+    if (!firstArgument_.empty()) plate_.defaultRotation_ = WholeValue();
+    // The first number is the rotation and X both: existing libraries are written that way.
+    std::array<Single, 3> coordinates{};
+    std::string_view words = argument_;
+    commentPlace_ = {};
+    for (Single& each : coordinates) {
+        const std::string_view word = NextWord(words);
+        if (word.empty()) break;
+        each = LeadingSingle(word);
+        commentPlace_ = word;
+    }
+    plate_.defaultX_ = coordinates[0];
+    plate_.defaultY_ = coordinates[1];
+    plate_.defaultZ_ = coordinates[2];
+}
+
+void cmPlate::LineReader::ReadTag() {
+    AddTag(argument_);
+    RecordTags();
+}
+
+void cmPlate::LineReader::ReadTagList() {
+    std::string_view words = argument_;
+    for (auto word = NextWord(words); !word.empty() && word.front() != ';'; word = NextWord(words))
+        AddTag(word);
+    commentPlace_ = {};
+    RecordTags();
+}
+
+void cmPlate::LineReader::AddTag(std::string_view tag) {
+    plate_.Tags.Add(std::make_shared<TStringPair>(String(tag), String(tag)));
+}
+
+void cmPlate::LineReader::RecordTags() {
+    Record(TraitsOf(Keyword::TagList).name, plate_.TagListText(), -1);
+}
+
+void cmPlate::LineReader::ReadWell() {
+    const std::string_view name = firstArgument_.empty() ? kDefaultSubWell : firstArgument_;
+    StartSubWell(name);
+    plate_.reader_.prefix.assign(name).append(".");
 }
 
 } // namespace zorvane

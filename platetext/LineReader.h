@@ -1,7 +1,10 @@
 #pragma once
 
 #include "model/cmPlate.h"
+#include "platetext/Keywords.h"
 #include "platetext/LineCode.h"
+#include "runtime/NumberText.h"
+#include "runtime/Rounding.h"
 
 #include <string_view>
 
@@ -13,48 +16,39 @@ class cmPlate::LineReader {
   public:
     explicit LineReader(cmPlate& plate) : plate_(plate) {}
 
-    Long Read(std::string_view line);
+    LineCode Read(std::string_view line);
 
   private:
     static constexpr std::string_view kDefaultSubWell = "DEFAULT";
     /// The shelf depth of a definition that gives none.
     static constexpr Single kNoShelf = -0.001F;
 
-    /// What a keyword does inside a plate. A line is recorded unless its keyword says otherwise.
-    struct Keyword {
-        std::string_view name;
-        void (*apply)(LineReader& line);
-        LineCode code = kApplied;
-        bool recorded = true;
-    };
-    static const Keyword& FindKeyword(std::string_view word);
-
     void TakeArgument(std::string_view argument);
     /// The text with its TABs as spaces; good until the next call.
     std::string_view Blanked(std::string_view text);
-    Long ReadOutsidePlate();
-    Long ReadInsidePlate();
+    LineCode ReadOutsidePlate();
+    LineCode ReadInsidePlate();
     void OpenPlate();
     void AppendTrailingComment();
     void Record(std::string_view name, std::string_view value, Integer position = 0);
 
-    Single Value() const;
-    Integer WholeValue() const;
+    Single Value() const { return LeadingSingle(firstArgument_); }
+    Integer WholeValue() const { return ToInteger(Value()); }
     /// The sub-well that the line is about; before any WELL line, one named DEFAULT.
     WellDetails& SubWell();
     void StartSubWell(std::string_view name);
 
+    void ReadPlateValue(Keyword keyword);
+    void ReadSubWellValue(const KeywordTraits& traits);
+    void ReadColumnLabel();
+    void ReadRowLabel();
+    void ReadShelfDepth();
     void ReadCoordinates();
     void ReadTag();
     void ReadTagList();
     void AddTag(std::string_view tag);
     void RecordTags();
-    void ReadColumnLabel();
-    void ReadRowLabel();
-    void ReadShelfDepth();
     void ReadWell();
-    void ReadStyle();
-    void ReadRimWidth();
 
     cmPlate& plate_;
     std::string_view keyword_;

@@ -1,11 +1,7 @@
-#include "Raised.h"
-#include "TempFile.h"
-#include "TestProcess.h"
 #include "model/cmPlate.h"
-#include "platetext/Definition.h"
 #include "platetext/LibraryIndex.h"
 
-#include <gtest/gtest.h>
+#include "Test.h"
 
 namespace zorvane {
 namespace {
@@ -24,35 +20,23 @@ TEST(PlateLibrary, FindsAPlateOrSaysThatItCannot) {
     look("another letter case", "PLATE Demo\n", "dEMO", true);
     look("a prefix is another name", "PLATE Demo1\nPLATE Demo12\n", "Demo", false);
     look("the first of two", "PLATE A\nEND\nPLATE B\nEND\n", "A", true);
-    look("behind an END", "PLATE A\nEND\nPLATE B\nEND\n", "B", false);
-    look("behind a stray line", "PLATE A\nINCLUDE x\nPLATE B\n", "B", false);
-    look("behind a line that fails", "PLATE A\nWELL w\nWELL W\nPLATE B\n", "B", false);
-    look("behind an unknown keyword", "PLATE A\nFOO 1\nPLATE B\n", "B", true);
-    look("an empty file", "", "A", false);
-    look("bytes of any kind", String("\0\xFF\x80\n\0PLATE A\n", 13), "A", false);
+    look("after an END", "PLATE A\nEND\nPLATE B\nEND\n", "B", false);
+    look("after a stray line", "PLATE A\nINCLUDE x\nPLATE B\n", "B", false);
+    look("after a line that fails", "PLATE A\nWELL w\nWELL W\nPLATE B\n", "B", false);
+    look("after an unknown keyword", "PLATE A\nFOO 1\nPLATE B\n", "B", true);
     look("bytes of any kind in a plate", "PLATE A\n\xFF\xFE \x01\x80\nPLATE B", "B", true);
     const String megabyte(1 << 20, '7');
     look("a megabyte of number", "PLATE A\nCOLS 7" + megabyte + "\nPLATE B", "B", false);
     look("a megabyte of comment", "PLATE A\n;" + megabyte + "\nPLATE B", "B", true);
-    look("a megabyte behind the point", "PLATE A\nXPITCH 7." + megabyte, "A", true);
-    look("a megabyte of keyword", "PLATE A\nx" + megabyte + "\nPLATE B", "B", true);
-    look("numbers out of range", "PLATE A\nXPITCH 1e39\nPLATE B", "B", false);
     look("sixteen bits and a half", "PLATE A\nROWS 32767.5\nPLATE B", "B", false);
 }
 
 TEST(PlateLibrary, SaysThatItCannotRead) {
     TestProcess process;
-    const String directory = testing::TempDir();
-    const String missing = directory + "no/such/file";
-    process.messages.Expect("Error trying to read \"Demo96\" from <" + missing + ">");
-    EXPECT_FALSE(cmPlate().SetPlate(missing, "Demo96"));
-    process.messages.Expect("Error trying to read \"Demo96\" from <" + directory + ">");
-    EXPECT_FALSE(cmPlate().SetPlate(directory, "Demo96"));
-    ASSERT_EQ(process.messages.shown.size(), 2U);
-    EXPECT_EQ(process.messages.shown[0].title, "Zorvane");
-
-    EXPECT_FALSE(cmPlate().SetPlate(missing, "")) << "nothing to say";
-    EXPECT_FALSE(cmPlate().SetPlate("", "Demo96")) << "nothing to say";
+    process.messages.Expect("Error trying to read \"Demo96\" from <no such file>");
+    EXPECT_FALSE(cmPlate().SetPlate("no such file", "Demo96"));
+    EXPECT_FALSE(cmPlate().SetPlate("no such file", "")) << "nothing to report";
+    EXPECT_FALSE(cmPlate().SetPlate("", "Demo96")) << "nothing to report";
 }
 
 TEST(LibraryIndex, ListsWhatALookUpReads) {
@@ -79,11 +63,7 @@ TEST(LibraryIndex, SaysWhereTheReadingStops) {
         EXPECT_EQ(listing.stoppedAtLine, line) << text;
         EXPECT_EQ(listing.code, code) << text;
     };
-    stops("", 0, 0, 0);
-    stops("; only a comment", 0, 0, 0);
-    stops("PLATE A\n", 1, 0, 0);
     stops("PLATE A\nEND\nPLATE B", 1, 2, 6);
-    stops("PLATE A\n\nEND", 1, 3, 6);
     stops("stray\nPLATE A", 0, 1, 6);
     stops("PLATE A\nINCLUDE x\nPLATE B", 1, 2, -1);
     EXPECT_EQ(NumberRaisedBy([] { ListLibrary(testing::TempDir() + "no such file"); }), 53);

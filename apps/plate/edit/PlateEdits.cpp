@@ -1,7 +1,7 @@
 #include "apps/plate/edit/PlateEdits.h"
 
 #include "apps/plate/Files.h"
-#include "platetext/EveryValue.h"
+#include "platetext/RecordMissingValues.h"
 #include "runtime/Checked.h"
 #include "runtime/NumberText.h"
 #include "runtime/Text.h"
@@ -107,7 +107,7 @@ void Add(cmPlate& plate, const String& name, const String& from) {
 }
 
 void Rotate(cmPlate& plate) {
-    RecordEveryValue(plate);
+    RecordMissingValues(plate);
     RunExplained("a value would be too large", [&] { plate.Rotate90(); });
 }
 
@@ -119,7 +119,7 @@ PlateEdit Shift(const String& distances) {
     const auto parts = PartsOf(distances, ',', 3, "X,Y,Z");
     return
         [x = NumberIn(parts[0]), y = NumberIn(parts[1]), z = NumberIn(parts[2])](cmPlate& plate) {
-            RecordEveryValue(plate);
+            RecordMissingValues(plate);
             RunExplained("a value would be too large", [&] { plate.ShiftWells(x, y, z); });
         };
 }

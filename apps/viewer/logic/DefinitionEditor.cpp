@@ -1,7 +1,7 @@
 #include "apps/viewer/logic/DefinitionEditor.h"
 
 #include "library/ReadBack.h"
-#include "platetext/EveryValue.h"
+#include "platetext/RecordMissingValues.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Text.h"
 #include "support/TStringPair.h"
@@ -38,7 +38,7 @@ void CheckReadsBack(const String& definition) {
 /// The text of a plate as a control gives it that has been given the plate.
 String EditedText(const LibraryText& library, const String& name) {
     cmPlate plate = library.PlateOf(library.Get(name));
-    RecordEveryValue(plate);
+    RecordMissingValues(plate);
     cmPlate shown;
     shown.SetFromText(WithoutEchoes(plate.Text()));
     CheckNothingLost(plate, shown);

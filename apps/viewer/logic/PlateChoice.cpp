@@ -44,13 +44,13 @@ String StopText(const LibraryListing& library) {
     if (library.stoppedAtLine == 0) return {};
     const String line = std::to_string(library.stoppedAtLine);
     switch (library.code) {
-    case -1:
+    case kStoppedAtInclude:
         return "Reading stops at line " + line +
                ": INCLUDE is not followed, and hides the plates behind it.";
-    case 6:
+    case kStoppedAtStrayLine:
         return "Reading stops at line " + line +
                ", which is not part of a plate and hides the plates behind it.";
-    case 7:
+    case kStoppedAtFailedLine:
         return "Reading stops at line " + line +
                ", which cannot be read and hides the plates behind it.";
     default:

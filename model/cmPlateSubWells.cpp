@@ -1,3 +1,4 @@
+#include "model/PropertyBlock.h"
 #include "model/cmPlate.h"
 #include "platetext/LineCode.h"
 #include "runtime/Checked.h"
@@ -7,25 +8,10 @@
 
 #include <vector>
 
-/// Adding, removing, renaming and exchanging sub-wells. The recorded properties of a sub-well form
-/// a block: the pair "<name>.Well" and the pairs after it whose names begin with "<name>.".
+/// Adding, removing, renaming and exchanging sub-wells together with their recorded properties.
 namespace zorvane {
 
 namespace {
-
-bool InBlock(const TStringPairList& list, Integer position, const String& prefix) {
-    if (position > list.Count()) return false;
-    const auto pair = list.Pair(Long{position});
-    if (!pair) Raise(ErrorNumber::ObjectNotSet);
-    return StartsWithNoCase(pair->Name(), prefix);
-}
-
-Integer BlockLength(const TStringPairList& list, Integer position, const String& prefix) {
-    Checked length = 0;
-    while (InBlock(list, Checked(position) + length, prefix))
-        length = length + 1;
-    return length;
-}
 
 /// Replaces a pair by another at the same position. At position 1 the new pair goes to the end of
 /// the list, because that is where the list puts what is added after position 0.
@@ -34,12 +20,12 @@ void ReplacePair(TStringPairList& list, Integer position, const std::shared_ptr<
     list.Add(by, Checked(position) - 1);
 }
 
-/// Moves a block of pairs from `from` to directly behind `after`, which counts without the block
-/// when that stands in front of it. After 0 is the end of the list, as the list has it.
-void MoveBlock(TStringPairList& list, Checked from, Integer length, Checked after,
-               const String& prefix) {
+/// Moves the pairs of a block from where they are now to directly after a position, which counts
+/// without the block when it stands before the block. After 0 is the end of the list, as the list
+/// has it.
+void MoveBlock(TStringPairList& list, const PropertyBlock& block, Checked from, Checked after) {
     const bool upwards = after.Value() != 0 && after.Value() < from.Value();
-    for (; length > 0 && InBlock(list, from.Value(), prefix); --length) {
+    for (Integer left = block.length; left > 0 && block.Covers(list, from); --left) {
         const auto pair = list.Pair(Long{from.Value()});
         list.Remove(Long{from.Value()});
         list.Add(pair, after);
@@ -50,26 +36,15 @@ void MoveBlock(TStringPairList& list, Checked from, Integer length, Checked afte
     }
 }
 
-/// The recorded properties of a sub-well: where they begin, 0 when there are none.
-struct Block {
-    String prefix;
-    Integer at;
-    Integer length;
-
-    Block(const TStringPairList& list, const WellDetails& subWell)
-        : prefix(subWell.WellName() + "."), at(list.IndexOf(prefix + "Well")),
-          length(at == 0 ? Integer{0} : BlockLength(list, at, prefix)) {}
-};
-
-void SwapBlocks(TStringPairList& list, const Block& earlier, const Block& later) {
-    const Checked front = Checked(earlier.at) - 1;
-    MoveBlock(list, later.at, later.length, front, later.prefix);
+void SwapBlocks(TStringPairList& list, const PropertyBlock& earlier, const PropertyBlock& later) {
+    const Checked front = Checked(earlier.first) - 1;
+    MoveBlock(list, later, later.first, front);
     if (front.Value() == 0) {
         // The later block could only go to the end; the earlier one follows it.
-        MoveBlock(list, earlier.at, earlier.length, 0, earlier.prefix);
+        MoveBlock(list, earlier, earlier.first, 0);
     } else {
-        MoveBlock(list, Checked(earlier.at) + later.length, earlier.length,
-                  Checked(later.at) + later.length - 2, earlier.prefix);
+        MoveBlock(list, earlier, Checked(earlier.first) + later.length,
+                  Checked(later.first) + later.length - 2);
     }
 }
 
@@ -81,7 +56,7 @@ void cmPlate::AddSubWell(const std::shared_ptr<WellDetails>& subWell, Integer in
     if (parent) {
         RecordLikeParent(subWell->WellName(), parent->WellName() + ".");
     } else {
-        ReadLines(SubWellText(*subWell, ""), kApplied);
+        ReadLines(SubWellText(*subWell, ""), LineCode::Applied);
     }
 }
 
@@ -100,29 +75,29 @@ void cmPlate::RecordLikeParent(const String& name, const String& parentPrefix) {
 }
 
 void cmPlate::RemoveSubWell(Integer index) {
-    const Block block(Properties, *layout_->Item(index));
+    const PropertyBlock block(Properties, layout_->Item(index)->WellName());
     // The editing commands show this failure for a sub-well without recorded properties.
-    if (block.at == 0) Raise(ErrorNumber::ObjectNotSet);
+    if (!block.Exists()) Raise(ErrorNumber::ObjectNotSet);
     for (Integer left = block.length; left > 0; --left)
-        Properties.Remove(Long{block.at});
+        Properties.Remove(Long{block.first});
     layout_->Remove(Long{index});
 }
 
 void cmPlate::RenameSubWell(Integer index, const String& newName) {
     const auto subWell = layout_->Item(index);
-    RenameBlock(*subWell, newName);
+    RenameBlock(subWell->WellName(), newName);
     layout_->Remove(Long{index});
     subWell->WellName(newName);
     layout_->AddSubWell(subWell, Checked(index) - 1);
 }
 
-void cmPlate::RenameBlock(const WellDetails& subWell, const String& newName) {
-    const Block block(Properties, subWell);
-    if (block.at == 0) return;
-    Properties.Pair(Long{block.at})->Value(newName);
+void cmPlate::RenameBlock(const String& name, const String& newName) {
+    const PropertyBlock block(Properties, name);
+    if (!block.Exists()) return;
+    Properties.Pair(Long{block.first})->Value(newName);
     const String prefix = newName + ".";
-    Integer at = block.at;
-    for (Integer left = block.length; left > 0 && InBlock(Properties, at, block.prefix); --left) {
+    Integer at = block.first;
+    for (Integer left = block.length; left > 0 && block.Covers(Properties, at); --left) {
         const auto old = Properties.Pair(Long{at});
         const String keyword = old->Name().substr(block.prefix.size());
         ReplacePair(Properties, at, std::make_shared<TStringPair>(prefix + keyword, old->Value()));
@@ -131,11 +106,11 @@ void cmPlate::RenameBlock(const WellDetails& subWell, const String& newName) {
 }
 
 void cmPlate::SwapSubWells(Integer index1, Integer index2) {
-    const Block first(Properties, *layout_->Item(index1));
-    const Block second(Properties, *layout_->Item(index2));
-    if (first.at == 0 || second.at == 0) return;
-    if (first.at < second.at) SwapBlocks(Properties, first, second);
-    if (second.at < first.at) SwapBlocks(Properties, second, first);
+    const PropertyBlock block1(Properties, layout_->Item(index1)->WellName());
+    const PropertyBlock block2(Properties, layout_->Item(index2)->WellName());
+    if (!block1.Exists() || !block2.Exists()) return;
+    if (block1.first < block2.first) SwapBlocks(Properties, block1, block2);
+    if (block2.first < block1.first) SwapBlocks(Properties, block2, block1);
     layout_->Swap(index1, index2);
 }
 

@@ -1,11 +1,13 @@
 #include "model/cmPlate.h"
 #include "platetext/LineReader.h"
+#include "platetext/ReadResult.h"
+#include "platform/Process.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Text.h"
 
 #include <algorithm>
 
-/// Reading definitions line by line, from an open library file or from a text.
+/// Reading definitions line by line, from a library file or from a text.
 namespace zorvane {
 
 namespace {
@@ -13,30 +15,38 @@ namespace {
 /// The one line that is a command to the reader instead of text of a definition.
 constexpr std::string_view kResetLine = "ResetParsePlateLine";
 
-constexpr Integer kOtherPlate = 1;
-constexpr Integer kIncludeMet = -1;
+bool GoesOnAfter(LineCode code) {
+    return code <= LineCode::PlateOpened || code == LineCode::UnknownKeyword;
+}
 
-bool GoesOnAfter(Long code) { return code <= kPlateOpened || code == kUnknownKeyword; }
+/// Reads plates until one has the name; false when the reading stops before.
+bool ReadUntilFound(cmPlate& plate, TextFile& file, const String& plateName) {
+    for (;;) {
+        const Integer result = plate.ReadNextPlate(file, plateName);
+        if (result == kPlateRead) return true;
+        if (result != kOtherPlateRead || file.AtEnd()) return false;
+    }
+}
 
 } // namespace
 
 void cmPlate::BeginReading() {
     Tags.Clear();
-    ParsePlateLine(kResetLine);
+    ReadLine(kResetLine);
 }
 
-Long cmPlate::ParsePlateLine(std::string_view line) {
+LineCode cmPlate::ReadLine(std::string_view line) {
     if (line == kResetLine) {
         // The current sub-well and the prefix stay until the next PLATE line.
         status_ = 0;
         Comment.clear();
         reader_.inPlate = false;
-        return kApplied;
+        return LineCode::Applied;
     }
     try {
         return LineReader(*this).Read(line);
     } catch (const RuntimeError&) {
-        return kFailed;
+        return LineCode::Failed;
     }
 }
 
@@ -46,7 +56,8 @@ Integer cmPlate::ReadNextPlate(TextFile& file,
     try {
         const Integer result = ReadPlate(file);
         const bool otherName = !name.empty() && !EqualNoCase(name, plateName_);
-        return result == 0 && otherName ? kOtherPlate : result;
+        if (result == kPlateRead && otherName) return kOtherPlateRead;
+        return result;
     } catch (const RuntimeError& error) {
         return static_cast<Integer>(error.Number());
     }
@@ -55,25 +66,26 @@ Integer cmPlate::ReadNextPlate(TextFile& file,
 Integer cmPlate::ReadPlate(TextFile& file) {
     BeginReading();
     TextFile::FilePosition lineStart = 0;
-    Long code = kNothing;
+    LineCode code = LineCode::Empty;
     do {
         lineStart = file.Position();
         file.ReadLine(reader_.line);
-        code = ParsePlateLine(Trim(reader_.line));
+        code = ReadLine(Trim(reader_.line));
     } while (!file.AtEnd() && GoesOnAfter(code));
 
     switch (code) {
-    case kPlateComplete: // The line that completed the plate may begin the next one.
+    case LineCode::PlateComplete: // The line that completed the plate may begin the next one.
         file.Seek(lineStart);
-        return 0;
-    case kIncludeOutside:
+        return kPlateRead;
+    case LineCode::IncludeOutside:
         file.Seek(lineStart);
-        return kIncludeMet;
-    case kStrayLine:
-    case kFailed:
-        return static_cast<Integer>(code);
+        return kStoppedAtInclude;
+    case LineCode::StrayLine:
+        return kStoppedAtStrayLine;
+    case LineCode::Failed:
+        return kStoppedAtFailedLine;
     default:
-        return 0;
+        return kPlateRead;
     }
 }
 
@@ -81,12 +93,12 @@ Integer cmPlate::ReadPlate(TextFile& file) {
 void cmPlate::SetFromText(String text) { // NOLINT(performance-unnecessary-value-param)
     BeginReading();
     // An unknown keyword ends the reading here, though not in a library file.
-    ReadLines(text, kPlateOpened);
+    ReadLines(text, LineCode::PlateOpened);
 }
 
-void cmPlate::ReadLines(std::string_view text, Long lastCode) {
+void cmPlate::ReadLines(std::string_view text, LineCode lastCode) {
     constexpr std::string_view lineEnd = "\r\n";
-    Long code = kNothing;
+    LineCode code = LineCode::Empty;
     do {
         const std::size_t end = text.find(lineEnd);
         reader_.line.assign(text.substr(0, end));
@@ -94,8 +106,24 @@ void cmPlate::ReadLines(std::string_view text, Long lastCode) {
         // Alone, CR and LF end no line here.
         std::replace(reader_.line.begin(), reader_.line.end(), '\r', ' ');
         std::replace(reader_.line.begin(), reader_.line.end(), '\n', ' ');
-        code = ParsePlateLine(reader_.line);
+        code = ReadLine(reader_.line);
     } while (!text.empty() && code <= lastCode);
+}
+
+// By value: the name may be this object's own, which reading overwrites.
+Boolean cmPlate::SetPlate(const String& fileName,
+                          String plateName) { // NOLINT(performance-unnecessary-value-param)
+    if (plateName.empty() || fileName.empty()) return false;
+    String failure = "Can't find Plate <" + plateName + "> in " + fileName;
+    try {
+        TextFile file;
+        file.OpenInput(fileName);
+        if (ReadUntilFound(*this, file, plateName)) return true;
+    } catch (const RuntimeError&) {
+        failure = "Error trying to read \"" + plateName + "\" from <" + fileName + ">";
+    }
+    CurrentProcess().Messages().Show({failure});
+    return false;
 }
 
 } // namespace zorvane

@@ -1,6 +1,6 @@
 #include "model/WellStyle.h"
 #include "model/cmPlate.h"
-#include "runtime/NumberText.h"
+#include "platetext/Keywords.h"
 #include "runtime/Text.h"
 #include "support/TStringPair.h"
 
@@ -13,6 +13,17 @@ namespace {
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kIndent = "    ";
 
+/// What AsText writes, in its order.
+constexpr Keyword kPlateValues[] = {
+    Keyword::Cols,   Keyword::Rows,     Keyword::ColLabel, Keyword::RowLabel, Keyword::XPitch,
+    Keyword::YPitch, Keyword::XOverall, Keyword::YOverall, Keyword::Height,   Keyword::ShelfDepth,
+};
+constexpr Keyword kSubWellValues[] = {
+    Keyword::Style,      Keyword::XOffset,    Keyword::YOffset,   Keyword::Depth,
+    Keyword::WellSizeX,  Keyword::WellSizeY,  Keyword::RimHeight, Keyword::RimWidth,
+    Keyword::RimCenterX, Keyword::RimCenterY, Keyword::Volume,
+};
+
 void AppendLine(String& text, std::string_view indent, std::string_view keyword,
                 std::string_view value) {
     text.append(indent).append(keyword).append(" ").append(value).append(kLineEnd);
@@ -21,7 +32,7 @@ void AppendLine(String& text, std::string_view indent, std::string_view keyword,
 /// The line that opens a definition, and its comments; what follows their last CR LF is left out.
 String Heading(std::string_view plateName, std::string_view comment) {
     String text;
-    AppendLine(text, "", "Plate", plateName);
+    AppendLine(text, "", TraitsOf(Keyword::Plate).written, plateName);
     for (std::size_t end = comment.find(kLineEnd); end != comment.npos;
          end = comment.find(kLineEnd)) {
         AppendLine(text, "", ";", comment.substr(0, end));
@@ -31,9 +42,10 @@ String Heading(std::string_view plateName, std::string_view comment) {
 }
 
 void AppendSubWellProperty(String& text, std::string_view keyword, std::string_view value) {
-    if (EqualNoCase(keyword, "Well")) {
+    const std::string_view well = TraitsOf(Keyword::Well).written;
+    if (EqualNoCase(keyword, well)) {
         text += kLineEnd;
-        AppendLine(text, kIndent, "Well", value);
+        AppendLine(text, kIndent, well, value);
     } else {
         AppendLine(text, "      ", keyword, value);
     }
@@ -57,22 +69,11 @@ String cmPlate::Text() const {
 }
 
 String cmPlate::AsText() const {
-    const auto line = [](String& text, std::string_view keyword, std::string_view value) {
-        AppendLine(text, kIndent, keyword, value);
-    };
     String text = Heading(plateName_, Comment);
     const String tags = TagListText();
-    if (!tags.empty()) line(text, "TAGLIST", tags);
-    line(text, "Cols", std::to_string(cols_));
-    line(text, "Rows", std::to_string(rows_));
-    line(text, "ColLabel", columnLabel_);
-    line(text, "RowLabel", rowLabel_);
-    line(text, "Xpitch", FormatPicture(xPitch_, "0.000"));
-    line(text, "Ypitch", FormatPicture(yPitch_, "0.000"));
-    line(text, "Xoverall", FormatPicture(xOverall_, "0.00"));
-    line(text, "Yoverall", FormatPicture(yOverall_, "0.00"));
-    line(text, "Height", FormatPicture(height_, "0.00"));
-    line(text, "ShelfDepth", FormatPicture(shelfDepth_, "0.000"));
+    if (!tags.empty()) AppendLine(text, kIndent, TraitsOf(Keyword::TagList).written, tags);
+    for (const Keyword keyword : kPlateValues)
+        AppendLine(text, kIndent, TraitsOf(keyword).written, ValueText(keyword));
     text += kLineEnd;
     for (const auto& subWell : *layout_)
         text += SubWellText(*subWell, kIndent);
@@ -81,22 +82,10 @@ String cmPlate::AsText() const {
 
 String cmPlate::SubWellText(const WellDetails& subWell, std::string_view indent) {
     String text;
-    AppendLine(text, indent, "Well", subWell.WellName());
+    AppendLine(text, indent, TraitsOf(Keyword::Well).written, subWell.WellName());
     const String inner = String(indent) + "  ";
-    const auto number = [&](std::string_view keyword, Single value) {
-        AppendLine(text, inner, keyword, FormatPicture(value, "0.00"));
-    };
-    AppendLine(text, inner, "Style", StyleText(subWell.Style()));
-    number("Xoffset", subWell.xOffset());
-    number("Yoffset", subWell.yOffset());
-    number("Depth", subWell.Depth());
-    number("WellSizeX", subWell.WellSizeX());
-    number("WellSizeY", subWell.WellSizeY());
-    number("RimHeight", subWell.RimHeight());
-    number("RimWidth", subWell.RimWidth());
-    number("RimCenterX", subWell.RimCenterX());
-    number("RimCenterY", subWell.RimCenterY());
-    number("Volume", subWell.MaxVolume());
+    for (const Keyword keyword : kSubWellValues)
+        AppendLine(text, inner, TraitsOf(keyword).written, SubWellValueText(subWell, keyword));
     return text.append(kLineEnd);
 }
 
