@@ -1,22 +1,15 @@
 #include "runtime/TextFile.h"
+#include "InputFile.h"
 
-#include <cstddef>
-#include <cstdint>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 
 using namespace zorvane;
 
 // Reading a line again from its remembered position gives the same line, and the last one ends
 // where the file ends.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const String path =
-        (std::filesystem::temp_directory_path() / "zorvane-fuzz-TextFile.tmp").string();
-    std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
     TextFile file;
-    file.OpenInput(path);
+    file.OpenInput(InputFile("TextFile", data, size));
     while (!file.AtEnd()) {
         const auto position = file.Position();
         const String line = file.ReadLine();
