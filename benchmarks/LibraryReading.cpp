@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <fstream>
 
-/// Looking up the last plate of a large library, beside its floor: a bare pass over the same file
-/// that only splits lines and takes the first word of each. The look-up may take three times that.
+/// Looking up the last plate of a large library. It may take three times as long as a bare pass
+/// over the same file that only splits lines and takes the first word of each.
 namespace zorvane {
 namespace {
 

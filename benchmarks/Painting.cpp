@@ -1,4 +1,4 @@
-// Painting a plate of 1,536 positions with three sub-wells each to an image, beside a
+// Painting a plate of 1,536 positions with three sub-wells each to an image, compared with a
 // QGraphicsScene that holds the same items. The argument is the drawing scale in units a
 // millimetre.
 

@@ -7,9 +7,9 @@
 
 #include <filesystem>
 
-/// A list of 100,000 pairs written to an XML file and read back, beside a general XML library that
-/// builds and saves, or loads and collects, the same document: each may take four times as long.
-/// Then what must not grow with the size of a list.
+/// A list of 100,000 pairs written to an XML file and read back. Each may take four times as long
+/// as a general XML library that builds and saves, or loads and collects, the same document. Then
+/// what must not grow with the size of a list.
 namespace zorvane {
 namespace {
 
@@ -78,7 +78,7 @@ void WriteList(benchmark::State& state) {
 }
 BENCHMARK(WriteList)->Unit(benchmark::kMillisecond);
 
-/// The document without what to do with it: less than any reader of a list can do.
+/// Only loads the document: less than any reader of a list can do.
 void LoadDocument(benchmark::State& state) {
     const SavedList file("zorvane-benchmark-list.xml");
     file.Write();
@@ -118,8 +118,8 @@ void ReadList(benchmark::State& state) {
 }
 BENCHMARK(ReadList)->Unit(benchmark::kMillisecond);
 
-/// The time for each pair says whether the whole is linear. Names are looked up from the last to
-/// the first, against the order that the list would guess.
+/// The time for each pair shows whether the whole is linear. Names are looked up from the last to
+/// the first, the opposite of the order that the list expects.
 void AddAndLookUp(benchmark::State& state) {
     const auto pairs = static_cast<int>(state.range(0));
     for (auto _ : state) {
@@ -133,7 +133,7 @@ void AddAndLookUp(benchmark::State& state) {
 }
 BENCHMARK(AddAndLookUp)->Arg(1000)->Arg(10000)->Arg(kPairs)->Unit(benchmark::kMillisecond);
 
-/// Every pair replaced by one of the same name, as a file can ask for that names its fields twice.
+/// Replaces every pair by one of the same name, as a file does that names its fields twice.
 void ReplaceEach(benchmark::State& state) {
     const auto pairs = static_cast<int>(state.range(0));
     TStringPairList list;
