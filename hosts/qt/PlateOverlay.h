@@ -16,9 +16,10 @@ class PlateOverlay {
     InvertingOverlay& Context() { return bitmap_; }
 
     /// Takes the size of the plate area, in device-independent pixels, and the device pixels in one
-    /// of these. Tells whether that changed anything, which wipes the outlines.
+    /// of these. Returns whether that changed anything, which wipes the
+    /// outlines.
     bool Fit(QSizeF area, qreal ratio);
-    /// Wipes the outlines; tells whether there were any.
+    /// Wipes the outlines; returns whether there were any.
     bool Clear();
 
     /// Inverts the pixels under the outlines. `area` is where the plate area lies in the painter's

@@ -4,10 +4,15 @@
 
 namespace zorvane {
 
-/// Emits the events of a control as signals of the widget that shows it.
+/// Emits what a control tells its observers as signals of the widget that shows it.
 class PlateSignals final : public PlateObserver {
   public:
-    explicit PlateSignals(PlateWidget& widget) : widget_(widget) {}
+    PlateSignals(PlateWidget& widget, Plate& plate) : widget_(widget), plate_(plate) {
+        plate_.AddObserver(*this);
+    }
+    ~PlateSignals() override { plate_.RemoveObserver(*this); }
+    PlateSignals(const PlateSignals&) = delete;
+    PlateSignals& operator=(const PlateSignals&) = delete;
 
     void DoubleClick() override { emit widget_.doubleClicked(); }
     void Click() override { emit widget_.clicked(); }
@@ -24,8 +29,16 @@ class PlateSignals final : public PlateObserver {
     }
     void ApplyChanges() override { emit widget_.changesApplied(); }
 
+    void CurrentWellChanged(Integer wellNo) override { emit widget_.currentWellChanged(wellNo); }
+    void SelectionChanged() override { emit widget_.selectionChanged(); }
+    void WellDataChanged(Integer first, Integer last) override {
+        emit widget_.wellDataChanged(first, last);
+    }
+    void PlateChanged() override { emit widget_.plateChanged(); }
+
   private:
     PlateWidget& widget_;
+    Plate& plate_;
 };
 
 } // namespace zorvane

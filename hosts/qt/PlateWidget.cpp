@@ -1,216 +1,255 @@
 #include "hosts/qt/PlateWidget.h"
 
-#include "hosts/qt/PanelMirror.h"
-#include "hosts/qt/PlateAccessible.h"
 #include "hosts/qt/PlateSignals.h"
+#include "hosts/qt/PlateSizing.h"
 #include "hosts/qt/QtPalette.h"
 #include "hosts/qt/QtProcess.h"
-#include "hosts/qt/SelectionAids.h"
 #include "hosts/qt/Units.h"
-#include "platform/Process.h"
-#include "runtime/RuntimeError.h"
+#include "hosts/qt/WidgetPainter.h"
+#include "hosts/qt/accessible/PlateAccessible.h"
+#include "hosts/qt/input/PlateInput.h"
+#include "hosts/qt/panel/DetailsButton.h"
+#include "hosts/qt/panel/PanelMirror.h"
 
 #include <QFileInfo>
-#include <QLayout>
-#include <QMetaMethod>
-#include <QPointer>
+#include <QHelpEvent>
 
 namespace zorvane {
 
 namespace {
 
-constexpr QSize kNewSize(400, 270);
 constexpr const char* kFirstPlate = "No_Plate";
-
-bool Holds(QLayout& layout, const QWidget& widget) {
-    for (int i = 0; i < layout.count(); ++i) {
-        QLayoutItem* item = layout.itemAt(i);
-        if (item->widget() == &widget) return true;
-        if (item->layout() && Holds(*item->layout(), widget)) return true;
-    }
-    return false;
-}
-
-bool IsLaidOut(const QWidget& widget) {
-    const QWidget* parent = widget.parentWidget();
-    return parent && parent->layout() && Holds(*parent->layout(), widget);
-}
 
 } // namespace
 
-PlateWidget::PlateWidget(QWidget* parent)
-    : QWidget(parent), site_(std::make_shared<QtSite>(*this, dataButton_)), askedSize_(kNewSize) {
+struct PlateWidget::Parts {
+    explicit Parts(PlateWidget& widget)
+        : hosted(std::make_shared<HostedPlate>(widget)), plate(hosted->plate),
+          steps(widget, hosted), painter(widget, *hosted, steps),
+          input(widget, plate, painter, steps), dataButton(widget), panel(widget, plate, steps),
+          sizing(widget, plate, panel, steps), observer(widget, plate) {
+        QtSite& site = hosted->site;
+        site.MenuButton(panel.MenuButton());
+        connect(&site, &QtSite::repaintAsked, &dataButton,
+                [this](const Rect& area) { painter.Repaint(area, input.InGesture()); });
+        connect(&site, &QtSite::sizeAsked, &dataButton, [this](QSize size) { sizing.Take(size); });
+        connect(&site, &QtSite::dataButtonFocusAsked, &dataButton,
+                [this] { dataButton.setFocus(Qt::OtherFocusReason); });
+        connect(&site, &QtSite::dataButtonChanged, &dataButton, [this] { ShowDataButton(); });
+        connect(&site, &QtSite::panelChanged, &panel, &PanelMirror::Changed);
+        connect(&panel, &PanelMirror::changed, &widget, &PlateWidget::panelChanged);
+        connect(&dataButton, &QPushButton::clicked, &dataButton,
+                [this] { steps.Run([this] { plate.DataButtonPressed(); }); });
+        ShowDataButton();
+        dataButton.raise(); // the panel leaves room for it
+    }
+
+    void ShowDataButton() { dataButton.Show(plate.Elements().cmdData); }
+
+    std::shared_ptr<HostedPlate> hosted;
+    Plate& plate;
+    StepRunner steps;
+    Aids aids;
+    WidgetPainter painter;
+    PlateInput input;
+    // Widgets go before what answers the events that their going causes.
+    DetailsButton dataButton;
+    PanelMirror panel;
+    PlateSizing sizing;
+    PlateSignals observer;
+};
+
+PlateWidget::PlateWidget(QWidget* parent) : QWidget(parent) {
     QtProcess::UseByDefault();
     PlateAccessible::Install();
-    plate_ = std::make_shared<Plate>(*site_);
-    signals_ = std::make_unique<PlateSignals>(*this);
-    plate_->AddObserver(*signals_);
-    selection_ = std::make_unique<SelectionAids>(*plate_);
-    site_->onRepaint = [this](const Rect& area) { ContentChanged(area); };
-    site_->onResize = [this](QSize size) { TakeSize(size); };
-    site_->Overlay().Context().onChange = [this](const Rect& pixels) { OutlineChanged(pixels); };
-
-    dataButton_.setParent(this);
-    dataButton_.setAccessibleName(tr("Details"));
-    connect(&dataButton_, &QPushButton::clicked, this,
-            [this] { Try([this] { plate_->DataButtonPressed(); }); });
-    MirrorDataButton();
-
-    panel_ = std::make_unique<PanelMirror>(
-        *this, *plate_, [this](const std::function<void()>& action) { Try(action); });
-    dataButton_.raise(); // the panel leaves room for it
-    site_->onPanelChange = [this] {
-        panel_->Sync();
-        emit panelChanged();
-    };
-    site_->menuPlace = [this] { return panel_->MenuPlace(); };
+    d_ = new Parts(*this);
+    connect(this, &PlateWidget::currentWellChanged, this,
+            [this] { PlateAccessible::AnnounceCurrentWell(*this); });
 
     setMouseTracking(true);
     // A press takes the focus where the control says so.
     setFocusPolicy(Qt::TabFocus);
     setMaximumSize(kLongestSide, kLongestSide);
-    resize(kNewSize);
+    resize(sizeHint());
 }
 
-PlateWidget::~PlateWidget() {
-    plate_->RemoveObserver(*signals_);
-    site_->Leave();
-}
+// The focus may move from one part to another while they go, so d_ stays valid until the end.
+PlateWidget::~PlateWidget() { delete d_; }
 
-QString PlateWidget::fileName() const { return QString::fromStdString(plate_->FileName); }
+Plate& PlateWidget::plate() { return d_->plate; }
 
-void PlateWidget::setFileName(const QString& name) { plate_->FileName = name.toStdString(); }
+const Plate& PlateWidget::plate() const { return d_->plate; }
 
-QString PlateWidget::plateName() const { return QString::fromStdString(plate_->PlateName()); }
+QString PlateWidget::fileName() const { return QString::fromStdString(plate().FileName); }
+
+void PlateWidget::setFileName(const QString& name) { plate().FileName = name.toStdString(); }
+
+QString PlateWidget::plateName() const { return QString::fromStdString(plate().PlateName()); }
 
 void PlateWidget::setPlateName(const QString& name) {
-    Try([&] { plate_->PlateName(name.toStdString()); });
+    d_->steps.Run([&] { plate().PlateName(name.toStdString()); });
 }
+
+bool PlateWidget::fixedSize() const { return plate().FixedSize; }
 
 void PlateWidget::setFixedSize(bool on) {
-    plate_->FixedSize = on;
-    Relayout();
+    plate().FixedSize = on;
+    d_->sizing.LayOut();
 }
+
+double PlateWidget::drawingScale() const { return double{plate().DrawingScale()}; }
 
 void PlateWidget::setDrawingScale(double scale) {
-    Try([&] { plate_->DrawingScale(static_cast<Single>(scale)); });
+    d_->steps.Run([&] { plate().DrawingScale(static_cast<Single>(scale)); });
 }
+
+bool PlateWidget::horizontalCentred() const { return plate().HorizontalCentred; }
 
 void PlateWidget::setHorizontalCentred(bool on) {
-    plate_->HorizontalCentred = on;
-    Relayout();
+    plate().HorizontalCentred = on;
+    d_->sizing.LayOut();
 }
+
+bool PlateWidget::verticalCentred() const { return plate().VerticalCentred; }
 
 void PlateWidget::setVerticalCentred(bool on) {
-    plate_->VerticalCentred = on;
-    Relayout();
+    plate().VerticalCentred = on;
+    d_->sizing.LayOut();
 }
 
-void PlateWidget::setRefitOnResize(bool on) {
-    refitOnResize_ = on;
-    Refit();
+bool PlateWidget::refitOnResize() const { return d_->sizing.RefitOnResize(); }
+
+void PlateWidget::setRefitOnResize(bool on) { d_->sizing.RefitOnResize(on); }
+
+QColor PlateWidget::defaultRimColor() const { return ShownColor(plate().DefaultRimColor()); }
+
+void PlateWidget::setDefaultRimColor(const QColor& color) {
+    plate().DefaultRimColor(ToLong(color, PlateState().DefaultRimColor));
 }
 
-void PlateWidget::setDataVisible(bool on) {
-    Try([&] { plate_->DataVisible(on); });
+QColor PlateWidget::defaultWellColor() const { return ShownColor(plate().DefaultWellColor()); }
+
+void PlateWidget::setDefaultWellColor(const QColor& color) {
+    plate().DefaultWellColor(ToLong(color, PlateState().DefaultWellColor));
 }
 
-QColor PlateWidget::ColorOf(Long color) const {
+QColor PlateWidget::defaultSelectColor() const { return ShownColor(plate().DefaultSelectColor); }
+
+void PlateWidget::setDefaultSelectColor(const QColor& color) {
+    plate().DefaultSelectColor = ToLong(color, PlateFields().DefaultSelectColor);
+}
+
+QColor PlateWidget::definedWellColor() const { return ShownColor(plate().DefinedWellColor); }
+
+void PlateWidget::setDefinedWellColor(const QColor& color) {
+    plate().DefinedWellColor = ToLong(color, PlateFields().DefinedWellColor);
+}
+
+QColor PlateWidget::errorWellColor() const { return ShownColor(plate().ErrorWellColor); }
+
+void PlateWidget::setErrorWellColor(const QColor& color) {
+    plate().ErrorWellColor = ToLong(color, PlateFields().ErrorWellColor);
+}
+
+QColor PlateWidget::selectedColor() const { return ShownColor(plate().SelectedColor); }
+
+void PlateWidget::setSelectedColor(const QColor& color) {
+    plate().SelectedColor = ToLong(color, PlateFields().SelectedColor);
+}
+
+QColor PlateWidget::deselectedColor() const { return ShownColor(plate().DeselectedColor); }
+
+void PlateWidget::setDeselectedColor(const QColor& color) {
+    plate().DeselectedColor = ToLong(color, PlateFields().DeselectedColor);
+}
+
+QColor PlateWidget::ShownColor(Long color) const {
     return ToColor(Resolve(color, SystemColors(palette())));
 }
 
-void PlateWidget::setDefaultRimColor(const QColor& color) {
-    plate_->DefaultRimColor(ToLong(color, PlateState().DefaultRimColor));
+bool PlateWidget::multipleSelect() const { return plate().MultipleSelect; }
+
+void PlateWidget::setMultipleSelect(bool on) { plate().MultipleSelect = on; }
+
+bool PlateWidget::dragDrop() const { return plate().DragDrop; }
+
+void PlateWidget::setDragDrop(bool on) { plate().DragDrop = on; }
+
+bool PlateWidget::mouseEnabled() const { return plate().MouseEnabled(); }
+
+void PlateWidget::setMouseEnabled(bool on) { plate().MouseEnabled(on); }
+
+bool PlateWidget::editEnable() const { return plate().EditEnable(); }
+
+void PlateWidget::setEditEnable(bool on) { plate().EditEnable(on); }
+
+bool PlateWidget::dataVisible() const { return plate().DataVisible(); }
+
+void PlateWidget::setDataVisible(bool on) {
+    d_->steps.Run([&] { plate().DataVisible(on); });
 }
 
-void PlateWidget::setDefaultWellColor(const QColor& color) {
-    plate_->DefaultWellColor(ToLong(color, PlateState().DefaultWellColor));
+PlateWidget::Aids PlateWidget::aids() const { return d_->aids; }
+
+void PlateWidget::setAids(Aids aids) {
+    d_->aids = aids;
+    update();
 }
 
-void PlateWidget::setDefaultSelectColor(const QColor& color) {
-    plate_->DefaultSelectColor = ToLong(color, PlateFields().DefaultSelectColor);
+int PlateWidget::wellAt(QPointF position) const { return d_->input.WellAt(position); }
+
+QSize PlateWidget::sizeHint() const { return d_->sizing.Asked(); }
+
+bool PlateWidget::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+    d_->input.ShowToolTip(static_cast<const QHelpEvent&>(*event));
+    return true;
 }
 
-void PlateWidget::setDefinedWellColor(const QColor& color) {
-    plate_->DefinedWellColor = ToLong(color, PlateFields().DefinedWellColor);
-}
-
-void PlateWidget::setErrorWellColor(const QColor& color) {
-    plate_->ErrorWellColor = ToLong(color, PlateFields().ErrorWellColor);
-}
-
-void PlateWidget::setSelectedColor(const QColor& color) {
-    plate_->SelectedColor = ToLong(color, PlateFields().SelectedColor);
-}
-
-void PlateWidget::setDeselectedColor(const QColor& color) {
-    plate_->DeselectedColor = ToLong(color, PlateFields().DeselectedColor);
-}
-
-void PlateWidget::Try(const std::function<void()>& action) {
-    const auto site = site_;
-    const auto plate = plate_; // goes before its site
-    const QPointer<PlateWidget> shown(this);
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        if (!shown) return;
-        Report(error.Number(), QString::fromStdString(error.Source()),
-               QString::fromStdString(error.Description()));
-    } catch (const std::exception& error) {
-        // Thrown by a slot of the host: an event loop can't hand it on either.
-        if (!shown) return;
-        Report(0, QString(), QString::fromLocal8Bit(error.what()));
-    }
-    if (shown) AnnounceCurrentWell();
-}
-
-void PlateWidget::Report(int number, const QString& source, const QString& description) {
-    if (isSignalConnected(QMetaMethod::fromSignal(&PlateWidget::failed))) {
-        emit failed(number, source, description);
-    } else {
-        CurrentProcess().Messages().Show({description.toStdString()});
-    }
-}
-
-void PlateWidget::Relayout() {
-    Try([this] { plate_->DrawingScale(plate_->DrawingScale()); });
-}
-
-// A layout fits the scale after it has sized the plate area, so the second one makes both agree. It
-// also closes the details panel, with what has been typed there.
-void PlateWidget::Refit() {
-    if (!refitOnResize_ || !plate_->FixedSize || refitting_) return;
-    const PanelElements& panel = plate_->Elements().panel;
-    const bool open = plate_->DataVisible();
-    const Integer page = panel.comboSelect.position;
-    if (open && panel.cmdApply.enabled) return;
-    refitting_ = true;
-    panel_->Run([&] {
-        Relayout();
-        Relayout();
-        if (!open) return;
-        plate_->DataVisible(true);
-        plate_->PageChosen(page);
-    });
-    refitting_ = false;
-}
-
-void PlateWidget::TakeSize(QSize size) {
-    askedSize_ = size;
-    updateGeometry();
-    if (!IsLaidOut(*this)) resize(size);
-}
+void PlateWidget::paintEvent(QPaintEvent* event) { d_->painter.Paint(*event); }
 
 void PlateWidget::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    panel_->Sync();
-    Refit();
+    d_->sizing.Resized();
 }
 
 void PlateWidget::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (plateName().isEmpty() && QFileInfo::exists(fileName())) setPlateName(kFirstPlate);
+}
+
+void PlateWidget::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) d_->ShowDataButton();
+    d_->panel.Sync();
+    update(); // colours, font and style all show
+}
+
+void PlateWidget::mousePressEvent(QMouseEvent* event) { d_->input.Press(*event); }
+
+void PlateWidget::mouseMoveEvent(QMouseEvent* event) { d_->input.Move(*event); }
+
+void PlateWidget::mouseReleaseEvent(QMouseEvent* event) { d_->input.Release(*event); }
+
+void PlateWidget::mouseDoubleClickEvent(QMouseEvent* event) { d_->input.DoubleClick(*event); }
+
+void PlateWidget::leaveEvent(QEvent* event) {
+    QWidget::leaveEvent(event);
+    d_->input.Leave();
+}
+
+void PlateWidget::keyPressEvent(QKeyEvent* event) { d_->input.KeyPress(*event); }
+
+void PlateWidget::keyReleaseEvent(QKeyEvent* event) { d_->input.KeyRelease(*event); }
+
+void PlateWidget::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    d_->painter.ShowFocusRing(event->reason() != Qt::MouseFocusReason);
+}
+
+void PlateWidget::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    d_->painter.ShowFocusRing(false);
 }
 
 } // namespace zorvane

@@ -1,23 +1,12 @@
 #pragma once
 
 #include "control/Plate.h"
-#include "hosts/qt/QtSite.h"
-#include "hosts/qt/ShapeImages.h"
 
 #include <QColor>
-#include <QPushButton>
 #include <QString>
 #include <QWidget>
 
-#include <functional>
-#include <memory>
-
 namespace zorvane {
-
-class PanelMirror;
-class PlateSignals;
-class QtCanvas;
-class SelectionAids;
 
 /// Shows one plate. The control itself is plate(); this widget paints it, hands it the operator's
 /// input and emits its events. A failure in answer to an event or to a property is emitted as
@@ -46,7 +35,7 @@ class PlateWidget : public QWidget {
     Q_PROPERTY(bool editEnable READ editEnable WRITE setEditEnable)
     Q_PROPERTY(bool dataVisible READ dataVisible WRITE setDataVisible DESIGNABLE false STORED false)
     Q_PROPERTY(Aids aids READ aids WRITE setAids)
-    // Restored last, so that the plate is loaded with the other settings in force.
+    // Restored last, so that the plate is loaded with the other settings applied.
     Q_PROPERTY(QString plateName READ plateName WRITE setPlateName)
 
   public:
@@ -54,8 +43,8 @@ class PlateWidget : public QWidget {
     /// for a selection that an aid makes; selectionAided() is emitted for it.
     enum class Aid {
         /// Shift and a press or an arrow key select the block from the well that was current
-        /// before.
-        /// With Ctrl, the other wells stay selected. Needs multipleSelect, as the next two.
+        /// before. With Ctrl, the other wells stay selected. Needs multipleSelect, as do the next
+        /// two.
         ShiftExtendsSelection = 0x01,
         CtrlASelectsAll = 0x02,
         /// A press on the legend of a row or column selects it in the current sub-well.
@@ -76,8 +65,8 @@ class PlateWidget : public QWidget {
     ~PlateWidget() override;
 
     /// The control. Its failures are thrown as RuntimeError, to be caught before they reach Qt.
-    Plate& plate() { return *plate_; }
-    const Plate& plate() const { return *plate_; }
+    Plate& plate();
+    const Plate& plate() const;
 
     QString fileName() const;
     void setFileName(const QString& name);
@@ -85,64 +74,64 @@ class PlateWidget : public QWidget {
     /// Loads the plate of that name from fileName.
     void setPlateName(const QString& name);
 
-    bool fixedSize() const { return plate_->FixedSize; }
+    bool fixedSize() const;
     void setFixedSize(bool on);
     /// Drawing units (1440 an inch) per millimetre.
-    double drawingScale() const { return double{plate_->DrawingScale()}; }
+    double drawingScale() const;
     void setDrawingScale(double scale);
-    bool horizontalCentred() const { return plate_->HorizontalCentred; }
+    bool horizontalCentred() const;
     void setHorizontalCentred(bool on);
-    bool verticalCentred() const { return plate_->VerticalCentred; }
+    bool verticalCentred() const;
     void setVerticalCentred(bool on);
 
-    /// Whether a plate of fixed size is fitted anew whenever the widget is resized. Off at first:
-    /// the control takes a new size into account at its next layout only. Waits while edits in the
-    /// details panel are not applied, because a layout drops them.
-    bool refitOnResize() const { return refitOnResize_; }
+    /// Whether a plate of fixed size is fitted to the widget whenever that is resized. Off at
+    /// first: the control takes a new size into account only at its next layout. Waits while edits
+    /// in the details panel are not applied, because a layout drops them.
+    bool refitOnResize() const;
     void setRefitOnResize(bool on);
 
-    // Colours hold from the next colouring of a well, or marking of the control, on. An invalid
-    // colour brings back the one of a new control.
+    // A colour applies from the next time that a well is coloured, or the control marked. An
+    // invalid colour brings back the one of a new control.
 
-    QColor defaultRimColor() const { return ColorOf(plate_->DefaultRimColor()); }
+    QColor defaultRimColor() const;
     void setDefaultRimColor(const QColor& color);
-    QColor defaultWellColor() const { return ColorOf(plate_->DefaultWellColor()); }
+    QColor defaultWellColor() const;
     void setDefaultWellColor(const QColor& color);
-    QColor defaultSelectColor() const { return ColorOf(plate_->DefaultSelectColor); }
+    QColor defaultSelectColor() const;
     void setDefaultSelectColor(const QColor& color);
-    QColor definedWellColor() const { return ColorOf(plate_->DefinedWellColor); }
+    QColor definedWellColor() const;
     void setDefinedWellColor(const QColor& color);
-    QColor errorWellColor() const { return ColorOf(plate_->ErrorWellColor); }
+    QColor errorWellColor() const;
     void setErrorWellColor(const QColor& color);
-    QColor selectedColor() const { return ColorOf(plate_->SelectedColor); }
+    QColor selectedColor() const;
     void setSelectedColor(const QColor& color);
-    QColor deselectedColor() const { return ColorOf(plate_->DeselectedColor); }
+    QColor deselectedColor() const;
     void setDeselectedColor(const QColor& color);
 
-    bool multipleSelect() const { return plate_->MultipleSelect; }
-    void setMultipleSelect(bool on) { plate_->MultipleSelect = on; }
-    bool dragDrop() const { return plate_->DragDrop; }
-    void setDragDrop(bool on) { plate_->DragDrop = on; }
-    bool mouseEnabled() const { return plate_->MouseEnabled(); }
-    void setMouseEnabled(bool on) { plate_->MouseEnabled(on); }
+    bool multipleSelect() const;
+    void setMultipleSelect(bool on);
+    bool dragDrop() const;
+    void setDragDrop(bool on);
+    bool mouseEnabled() const;
+    void setMouseEnabled(bool on);
 
     /// Whether the operator can edit the plate definition in the details panel.
-    bool editEnable() const { return plate_->EditEnable(); }
-    void setEditEnable(bool on) { plate_->EditEnable(on); }
+    bool editEnable() const;
+    void setEditEnable(bool on);
     /// Whether the details panel is open.
-    bool dataVisible() const { return plate_->DataVisible(); }
+    bool dataVisible() const;
     void setDataVisible(bool on);
 
     /// None at first.
-    Aids aids() const { return aids_; }
+    Aids aids() const;
     void setAids(Aids aids);
-    void setAid(Aid aid, bool on = true) { setAids(Aids(aids_).setFlag(aid, on)); }
+    void setAid(Aid aid, bool on = true) { setAids(aids().setFlag(aid, on)); }
 
     /// The well shown at a place of the widget, or -1.
     int wellAt(QPointF position) const;
 
     /// The size that the control last asked for.
-    QSize sizeHint() const override { return askedSize_; }
+    QSize sizeHint() const override;
 
   signals:
     void doubleClicked();
@@ -155,8 +144,19 @@ class PlateWidget : public QWidget {
     void mouseReleased(int button, int shift, float x, float y);
     void dragMoved(int button, int shift, int columns, int rows);
     void changesApplied();
-    /// Something in the details panel has changed; comes in the middle of what changes it.
+    /// Something in the details panel has changed. Comes once for each step of the operator in the
+    /// panel and for each fit to a new size, after it.
     void panelChanged();
+
+    // What has changed, whoever changed it; each comes at most once for an operation.
+
+    void currentWellChanged(int wellNo);
+    /// Other wells are selected.
+    void selectionChanged();
+    /// Text, error code, volume, annotation, mark or colour of wells in this range has changed.
+    void wellDataChanged(int first, int last);
+    /// Another plate definition, or another layout of it, is shown.
+    void plateChanged();
 
     /// An aid has changed which wells are selected.
     void selectionAided();
@@ -181,63 +181,12 @@ class PlateWidget : public QWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    enum class Part { None, PlateArea, Panel, Background, Aid };
-    /// A place in the plate area, in drawing units.
-    struct Spot {
-        Single x;
-        Single y;
-    };
+    friend class StepRunner; // asks whether failed() is connected
+    struct Parts;
 
-    /// Runs what may fail, and reports a failure.
-    void Try(const std::function<void()>& action);
-    QColor ColorOf(Long color) const;
-    void Report(int number, const QString& source, const QString& description);
+    QColor ShownColor(Long color) const;
 
-    void ContentChanged(const Rect& area);
-    void OutlineChanged(const Rect& pixels);
-    void TakeSize(QSize size);
-    void MirrorDataButton();
-    void FitOverlay();
-    void Relayout();
-    void Refit();
-    void PaintPlate(QPainter& painter, const QRectF& clip);
-    void PaintHints(QtCanvas& canvas);
-    void PaintFocusRing(QPainter& painter);
-
-    Part PartAt(QPointF position) const;
-    Spot InPlate(QPointF position) const;
-    bool IsWell(Integer number) const { return number >= 0 && number < plate_->TotalWells(); }
-    void Press(const QMouseEvent& event);
-    bool AnswerPress(const QMouseEvent& event);
-    bool AnswerKey(const QKeyEvent& event);
-    void AnswerMove(Integer from, Qt::KeyboardModifiers modifiers);
-    void Select(const std::function<void()>& selection);
-    void HoverOver(Integer wellNo);
-    void AnnounceCurrentWell();
-    QString ToolTipText() const;
-    void Release(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPointF position);
-    void ShowPointer(bool overPlate);
-    void ShowRing(bool on);
-
-    QPushButton dataButton_;
-    // Shared with each step that is under way, which may outlive this widget: a host may destroy it
-    // while a menu or a question is open.
-    std::shared_ptr<QtSite> site_;
-    std::shared_ptr<Plate> plate_;
-    std::unique_ptr<PlateSignals> signals_;
-    std::unique_ptr<SelectionAids> selection_;
-    std::unique_ptr<PanelMirror> panel_;
-    Aids aids_;
-    Integer hovered_ = -1;
-    Integer announced_ = -1;
-    ShapeImages images_;
-    QSize askedSize_;
-    Part pressed_ = Part::None; // where the button went down that is still held
-    bool secondClick_ = false;
-    bool bandLost_ = false;
-    bool refitOnResize_ = false;
-    bool refitting_ = false;
-    bool ringShown_ = false;
+    Parts* d_ = nullptr;
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(PlateWidget::Aids)

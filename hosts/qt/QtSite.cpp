@@ -1,7 +1,7 @@
 #include "hosts/qt/QtSite.h"
 
-#include "hosts/qt/PanelText.h"
 #include "hosts/qt/Units.h"
+#include "hosts/qt/panel/PanelText.h"
 
 #include <QCursor>
 #include <QInputDialog>
@@ -12,20 +12,6 @@
 
 namespace zorvane {
 
-void QtSite::Repaint(const Rect& area) {
-    if (onRepaint) onRepaint(area);
-}
-
-void QtSite::Leave() {
-    widget_ = nullptr;
-    dataButton_ = nullptr;
-    onRepaint = {};
-    onResize = {};
-    onPanelChange = {};
-    menuPlace = {};
-    overlay_.Context().onChange = {};
-}
-
 Single QtSite::Width() const { return widget_ ? ToUnits(widget_->width()) : 0; }
 
 Single QtSite::Height() const { return widget_ ? ToUnits(widget_->height()) : 0; }
@@ -34,19 +20,11 @@ void QtSite::Resize(Single width, Single height) {
     const auto pixels = [](Single units) {
         return std::clamp(static_cast<int>(std::ceil(ToPixels(units))), 0, kLongestSide);
     };
-    if (onResize) onResize({pixels(width), pixels(height)});
+    emit sizeAsked({pixels(width), pixels(height)});
 }
 
 void QtSite::TakeFocus() {
     if (widget_) widget_->setFocus(Qt::MouseFocusReason);
-}
-
-void QtSite::FocusDataButton() {
-    if (dataButton_) dataButton_->setFocus(Qt::OtherFocusReason);
-}
-
-void QtSite::PanelChanged() {
-    if (onPanelChange) onPanelChange();
 }
 
 String QtSite::Ask(const Question& question) {
@@ -62,11 +40,16 @@ Integer QtSite::Choose(const std::vector<MenuEntry>& entries) {
     const QPointer<QMenu> menu = new QMenu(widget_);
     for (const MenuEntry& entry : entries)
         menu->addAction(QString::fromStdString(entry.caption))->setEnabled(entry.enabled);
-    const QAction* const chosen = menu->exec(menuPlace ? menuPlace() : QCursor::pos());
+    const QAction* const chosen = menu->exec(MenuPlace());
     if (!menu) return -1; // went with its widget
     const auto position = static_cast<Integer>(menu->actions().indexOf(chosen));
     delete menu;
     return position;
+}
+
+QPoint QtSite::MenuPlace() const {
+    if (!menuButton_ || menuButton_->underMouse()) return QCursor::pos();
+    return menuButton_->mapToGlobal(menuButton_->rect().bottomLeft());
 }
 
 } // namespace zorvane

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "TestProcess.h"
+#include "Test.h"
 #include "hosts/qt/PlateWidget.h"
 #include "hosts/qt/Units.h"
 
 #include <QImage>
+#include <QPushButton>
 #include <QStringList>
 #include <QtTest/QTest>
 
@@ -52,6 +53,15 @@ struct Form {
         QApplication::sendEvent(&widget, &event);
     }
     void Release(int well) { QTest::mouseRelease(&widget, Qt::LeftButton, {}, At(well)); }
+
+    /// Leaves pictures without what fonts and styles draw in many ways.
+    void HideTexts() {
+        QPalette palette(QColor(0xD0, 0xD0, 0xD0));
+        palette.setColor(QPalette::ButtonText, palette.color(QPalette::Button));
+        palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Highlight));
+        widget.setPalette(palette);
+        widget.findChild<QPushButton*>()->hide();
+    }
 
     QImage Picture() { return widget.grab().toImage(); }
     /// The signals since the last call.

@@ -107,18 +107,6 @@ TEST(PlateWidgetAids, NeedMultipleSelectToSelectSeveral) {
     EXPECT_EQ(Selected(form), " 8");
 }
 
-TEST(PlateWidgetAids, AreHarmlessOnAPlateWithoutWells) {
-    Form form;
-    form.widget.setAids(PlateWidget::Aids::fromInt(0x7F));
-    form.widget.plate().PlateClassText("PLATE Bare\r\nXOVERALL 70\r\nYOVERALL 50\r\n");
-    QTest::mouseMove(&form.widget, {60, 60});
-    QTest::keyClick(&form.widget, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&form.widget, Qt::Key_Escape);
-    QTest::keyClick(&form.widget, Qt::Key_Down, Qt::ShiftModifier);
-    EXPECT_FALSE(form.Picture().isNull());
-    EXPECT_EQ(ToolTipAt(form, 0), "");
-}
-
 TEST(PlateWidgetAids, TooltipsTellWhatIsKnownOfAWell) {
     Form form;
     form.widget.setAid(Aid::RichToolTips);

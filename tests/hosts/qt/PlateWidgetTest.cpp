@@ -1,7 +1,8 @@
 #include "Form.h"
-#include "TempFile.h"
+#include "Test.h"
 
 #include <QHBoxLayout>
+#include <QSignalSpy>
 
 namespace zorvane {
 
@@ -46,11 +47,37 @@ TEST(PlateWidget, FitsAPlateOfFixedSizeAnewOnlyWhenAskedTo) {
     EXPECT_LT(form.widget.drawingScale(), scale);
 }
 
-TEST(PlateWidget, StaysWithinWhatDrawingUnitsCanHold) {
-    const TestProcess process;
-    PlateWidget widget;
-    widget.resize(5000, 5000);
-    EXPECT_EQ(widget.size(), QSize(2184, 2184));
+TEST(PlateWidget, CentresAPlateOfFixedSize) {
+    Form form;
+    form.widget.setFixedSize(true);
+    form.widget.resize(600, 600);
+    form.widget.setHorizontalCentred(true);
+    const Surface& surface = form.widget.plate().Elements();
+    const Rect& area = surface.fraPlate.box;
+    EXPECT_EQ(area.left, (ToUnits(600) - area.width) / 2);
+    EXPECT_EQ(area.top, 0);
+    form.widget.setVerticalCentred(true);
+    EXPECT_EQ(area.top, (ToUnits(600) - area.height - surface.cmdData.box.height) / 2);
+}
+
+TEST(PlateWidget, TellsWhatHasChanged) {
+    Form form;
+    Plate& plate = form.widget.plate();
+    const QSignalSpy current(&form.widget, &PlateWidget::currentWellChanged);
+    const QSignalSpy selection(&form.widget, &PlateWidget::selectionChanged);
+    const QSignalSpy shown(&form.widget, &PlateWidget::plateChanged);
+    plate.CurrentWell(5);
+    ASSERT_EQ(current.size(), 1);
+    EXPECT_EQ(current[0], QList<QVariant>{5});
+    plate.SelectWell(3, true);
+    EXPECT_EQ(selection.size(), 1);
+    const QSignalSpy data(&form.widget, &PlateWidget::wellDataChanged);
+    plate.Text(4, "lysozyme");
+    ASSERT_EQ(data.size(), 1);
+    EXPECT_EQ(data[0], (QList<QVariant>{4, 4}));
+    EXPECT_EQ(shown.size(), 0);
+    plate.PlateClassText(kPlateText);
+    EXPECT_EQ(shown.size(), 1);
 }
 
 TEST(PlateWidget, LoadsFromItsLibraryAndSaysWhenItCannot) {

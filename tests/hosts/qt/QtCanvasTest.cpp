@@ -91,42 +91,4 @@ TEST(QtCanvas, ShapesTooLargeToKeepLookLikeTheOthers) {
     EXPECT_EQ(image.pixel(160, 160), kRedPixel);
 }
 
-TEST(QtCanvas, InvertedOutlinesDrawnTwiceLeaveNoTrace) {
-    const auto backdrop = [](QtCanvas& canvas) {
-        canvas.FillRectangle({200, 100, 50}, {150, 0, 300, 600});
-    };
-    const QImage before = Painted(1.25, backdrop);
-    for (const int times : {1, 2}) {
-        const QImage after = Painted(1.25, [&](QtCanvas& canvas) {
-            backdrop(canvas);
-            for (int i = 0; i < times; ++i)
-                canvas.DrawInvertedOutline({75, 75, 300, 0 + 210});
-        });
-        EXPECT_EQ(after == before, times == 2);
-    }
-}
-
-TEST(QtCanvas, TextIsCentredInItsBox) {
-    for (const double ratio : {1.0, 2.0}) {
-        SCOPED_TRACE(ratio);
-        const QImage image = Painted(ratio, [](QtCanvas& canvas) {
-            canvas.DrawText({.color = kBlack}, {0, 150, 600, 300}, "H8H");
-            EXPECT_GT(canvas.TextWidth("H8H", true), canvas.TextWidth("H", false) * 2);
-        });
-        const QRect extent = Extent(image);
-        EXPECT_NEAR(extent.center().x(), 20 * ratio, 1.5 * ratio);
-        EXPECT_NEAR(extent.center().y(), 20 * ratio, 1.5 * ratio);
-    }
-}
-
-TEST(QtCanvas, LeavesThePainterAsItWas) {
-    QImage image(40, 40, QImage::Format_RGB32);
-    QPainter painter(&image);
-    painter.translate(3.5, 2);
-    const QTransform before = painter.worldTransform();
-    ShapeImages images;
-    { const QtCanvas canvas(painter, images, QApplication::font(), QRectF(0, 0, 40, 40)); }
-    EXPECT_EQ(painter.worldTransform(), before);
-}
-
 } // namespace zorvane

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "drawing/Canvas.h"
-#include "hosts/qt/PlateLegends.h"
+#include "hosts/qt/aids/PlateLegends.h"
 
 #include <QString>
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "hosts/qt/PlateLegends.h"
+#include "hosts/qt/aids/PlateLegends.h"
 
 #include <optional>
 
 namespace zorvane {
 
-/// Selections beyond the control's own gestures, made of its public members alone, so that the
-/// control counts them. All but Clear need MultipleSelect; the current well moves only where said.
+/// Selections beyond the control's own gestures, made with nothing but its public members, so that
+/// the control counts them. They need MultipleSelect; the current well moves only where said.
 class SelectionAids {
   public:
     explicit SelectionAids(Plate& plate) : plate_(plate) {}
@@ -21,7 +21,6 @@ class SelectionAids {
     /// Selects a row or column in the current sub-well.
     void SelectLine(GridLine line, bool keepOthers);
     void SelectAll();
-    void Clear();
     /// Whether a well is selected, counted by the control or not.
     bool Any() const;
 

@@ -1,4 +1,4 @@
-#include "hosts/qt/PlateHints.h"
+#include "hosts/qt/aids/PlateHints.h"
 
 #include "drawing/Palette.h"
 

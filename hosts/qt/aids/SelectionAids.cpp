@@ -1,7 +1,6 @@
-#include "hosts/qt/SelectionAids.h"
+#include "hosts/qt/aids/SelectionAids.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace zorvane {
 
@@ -10,7 +9,7 @@ void SelectionAids::ExtendTo(Integer wellNo, bool keepOthers) {
     plate_.CurrentWell(*anchor_);
     const Integer row = plate_.Row();
     const Integer col = plate_.Col();
-    if (!keepOthers) Clear();
+    if (!keepOthers) plate_.ClearSelection();
     plate_.CurrentWell(wellNo);
     const Block block{std::min(row, plate_.Row()), std::min(col, plate_.Col()),
                       std::max(row, plate_.Row()), std::max(col, plate_.Col())};
@@ -20,7 +19,7 @@ void SelectionAids::ExtendTo(Integer wellNo, bool keepOthers) {
 
 void SelectionAids::SelectLine(GridLine line, bool keepOthers) {
     const Integer current = plate_.CurrentWell();
-    if (!keepOthers) Clear();
+    if (!keepOthers) plate_.ClearSelection();
     const auto lastRow = static_cast<Integer>(plate_.Rows - 1);
     const auto lastCol = static_cast<Integer>(plate_.Cols - 1);
     const Block block = line.isRow ? Block{line.number, 0, line.number, lastCol}
@@ -35,15 +34,6 @@ void SelectionAids::SelectAll() {
                     static_cast<Integer>(plate_.Cols - 1)};
     for (Integer subWell = 1; subWell <= plate_.SubWellCount; ++subWell)
         SelectBlock(all, subWell);
-    plate_.CurrentWell(current);
-}
-
-// Making a well current without MultipleSelect clears the selection and its count.
-void SelectionAids::Clear() {
-    const Integer current = plate_.CurrentWell();
-    const bool multiple = std::exchange(plate_.MultipleSelect, false);
-    plate_.SetWell(0, 0, "", wsSilent);
-    plate_.MultipleSelect = multiple;
     plate_.CurrentWell(current);
 }
 

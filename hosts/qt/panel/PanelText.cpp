@@ -1,4 +1,4 @@
-#include "hosts/qt/PanelText.h"
+#include "hosts/qt/panel/PanelText.h"
 
 #include "runtime/Text.h"
 

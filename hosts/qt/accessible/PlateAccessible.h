@@ -17,8 +17,10 @@ class PlateAccessible final : public QAccessibleWidget {
     explicit PlateAccessible(PlateWidget& widget);
     ~PlateAccessible() override;
 
-    /// Makes plate widgets accessible from here on; may be called again.
+    /// Makes plate widgets accessible from now on; may be called again.
     static void Install();
+    /// Tells assistive technology that another well of a widget with the focus is current.
+    static void AnnounceCurrentWell(PlateWidget& widget);
 
     int childCount() const override;
     QAccessibleInterface* child(int index) const override;

@@ -1,4 +1,4 @@
-#include "hosts/qt/PlateLegends.h"
+#include "hosts/qt/aids/PlateLegends.h"
 
 namespace zorvane {
 

@@ -1,12 +1,16 @@
 #include "Form.h"
+#include "Golden.h"
 
 #include <QComboBox>
 #include <QGroupBox>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QSignalSpy>
 #include <QTimer>
 
 namespace zorvane {
@@ -38,10 +42,10 @@ class PanelForm : public Form {
     QPushButton& Menu() const { return *Captioned("...."); }
     QLineEdit* Row(const char* caption) const { return Named<QLineEdit>(caption); }
 
-    void Turn(const char* page) {
+    void Turn(const char* page) { Turn(Pages().findText(page)); }
+    void Turn(int position) {
+        ASSERT_GE(position, 0);
         Pages().setFocus();
-        const int position = Pages().findText(page);
-        ASSERT_GE(position, 0) << page;
         Pages().setCurrentIndex(position);
         emit Pages().activated(position);
     }
@@ -77,25 +81,84 @@ bool IsUncovered(const PanelForm& form, const QWidget& shown) {
     return form.widget.rect().contains(middle) && form.widget.childAt(middle) == &shown;
 }
 
+QString TextIn(const QWidget& shown) {
+    if (const auto* label = qobject_cast<const QLabel*>(&shown)) return label->text();
+    if (const auto* edit = qobject_cast<const QLineEdit*>(&shown)) return edit->text();
+    if (const auto* edit = qobject_cast<const QPlainTextEdit*>(&shown)) return edit->toPlainText();
+    if (const auto* button = qobject_cast<const QPushButton*>(&shown)) return button->text();
+    const auto* list = qobject_cast<const QComboBox*>(&shown);
+    QStringList entries;
+    for (int i = 0; list && i < list->count(); ++i)
+        entries += (i == list->currentIndex() ? "*" : "") + list->itemText(i);
+    return entries.join('|');
+}
+
+/// A line for each control in sight, from back to front.
+QString AsText(const PanelForm& form) {
+    const auto& scroller = *form.widget.findChild<QScrollArea*>();
+    const auto& frame = *form.widget.findChild<QGroupBox*>();
+    const auto place = [](const QRect& box) {
+        return QString("%1,%2 %3x%4").arg(box.x()).arg(box.y()).arg(box.width()).arg(box.height());
+    };
+    QString text = QString("%1: %2, view %3, contents %4\n")
+                       .arg(frame.title(), place(frame.geometry()), place(scroller.geometry()),
+                            place(scroller.widget()->geometry()));
+    for (const QObject* const child : scroller.widget()->children()) {
+        const auto& shown = *qobject_cast<const QWidget*>(child);
+        if (!shown.isVisible()) continue;
+        const auto* const edit = qobject_cast<const QLineEdit*>(child);
+        const auto* const comment = qobject_cast<const QPlainTextEdit*>(child);
+        text += QString("  %1 \"%2\" \"%3\"")
+                    .arg(place(shown.geometry()), shown.accessibleName(), TextIn(shown));
+        if (!shown.isEnabled()) text += " disabled";
+        if (edit && edit->alignment().testFlag(Qt::AlignRight)) text += " right";
+        if (comment && comment->isReadOnly()) text += " read-only";
+        if (shown.palette().color(QPalette::Base) != form.widget.palette().color(QPalette::Base))
+            text += " grey";
+        if (qobject_cast<const QLabel*>(child) && shown.autoFillBackground()) text += " opaque";
+        text += '\n';
+    }
+    return text;
+}
+
 TEST(PanelMirror, ShowsEachPageWithTheToolkitsControls) {
     PanelForm form;
-    EXPECT_EQ(form.widget.findChild<QGroupBox*>()->title(), "Demo - Details");
-    EXPECT_EQ(form.Comment().toPlainText(), "first\nsecond");
-    form.Turn("General Properties");
-    EXPECT_FALSE(form.Comment().isVisible());
-    EXPECT_EQ(form.Row("Columns")->text(), "6");
-    EXPECT_TRUE(form.Row("Columns")->alignment().testFlag(Qt::AlignRight));
-    form.Turn("Drop Well");
-    EXPECT_EQ(form.Style().currentText(), "Round");
-    form.Turn("Tags");
-    EXPECT_FALSE(form.Row("Tag 12")->alignment().testFlag(Qt::AlignRight));
-
+    Plate& plate = form.widget.plate();
+    String text = plate.PlateClassText();
+    text.replace(text.find("Demo"), 4, "A&B");
+    plate.PlateClassText(text);
+    plate.SetProperty("Reservoir.R0", "5");
+    plate.DataVisible(true);
+    QString pages;
+    for (const bool edits : {true, false}) {
+        form.widget.setEditEnable(edits);
+        for (int page = 0; page < form.Pages().count(); ++page) {
+            form.Turn(page);
+            pages += AsText(form);
+        }
+    }
     form.widget.plate().SetDataDisplay(2); // what the host does shows at once
-    EXPECT_NE(form.Row("Columns"), nullptr);
-    form.widget.setEditEnable(false);
-    EXPECT_FALSE(form.Apply().isVisible() || form.Menu().isVisible());
+    pages += AsText(form);
+    ExpectGolden(pages, "panel-pages");
     form.widget.setDataVisible(false);
     EXPECT_FALSE(form.widget.findChild<QGroupBox*>()->isVisible());
+}
+
+TEST(PanelMirror, StylesAndFramesAreDrawn) {
+    PanelForm form;
+    if (form.widget.devicePixelRatio() != 1) GTEST_SKIP() << "the pictures have one pixel a pixel";
+    QString pictures;
+    for (const char* page : {"Drop Well", "Reservoir Well"}) {
+        form.Turn(page);
+        form.Style().setItemText(form.Style().currentIndex(), ""); // fonts differ
+        pictures += AsCharacters(form.Style().parentWidget()->grab({88, 32, 80, 24}).toImage());
+    }
+    form.Style().setFocus();
+    pictures += AsCharacters(form.Style().grab({40, 0, 10, 24}).toImage());
+    form.Row("X offset")->setText("");
+    form.Row("X offset")->setFocus();
+    pictures += AsCharacters(form.Row("X offset")->grab({0, 0, 10, 15}).toImage());
+    ExpectGolden(pictures, "panel-style");
 }
 
 TEST(PanelMirror, WhatIsTypedIsInTheControlAtOnce) {
@@ -146,21 +209,12 @@ TEST(PanelMirror, NoLineOfACommentIsLost) {
     EXPECT_EQ(form.Comment().textCursor().position(), form.Comment().toPlainText().size());
     QTest::mouseClick(&form.Apply(), Qt::LeftButton);
     EXPECT_EQ(form.widget.plate().LoadedDefinition().Comment, "first\r\nsecond\r\nthird\r\n");
+    form.Comment().setFocus();
     form.Comment().selectAll();
     QTest::keyClick(&form.Comment(), Qt::Key_Delete);
     EXPECT_EQ(form.Panel().txtComment.text, "");
-}
-
-TEST(PanelMirror, NoBreakSpacesOfACommentStayWhatTheyAre) {
-    PanelForm form;
-    String text = kPlateText;
-    text.insert(text.find("XPITCH"), "; 5\xC2\xA0mm\r\n");
-    form.widget.plate().PlateClassText(text);
-    form.widget.setDataVisible(true);
-    form.Comment().moveCursor(QTextCursor::End);
-    form.widget.setEditEnable(true); // shows the panel anew
-    QTest::keyClicks(&form.Comment(), "ab");
-    EXPECT_EQ(form.Panel().txtComment.text, "5\xC2\xA0mmab\r\n");
+    QTest::keyClick(&form.Comment(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &form.Apply());
 }
 
 TEST(PanelMirror, BytesThatAreNoUtf8SurviveAnEdit) {
@@ -326,26 +380,32 @@ TEST(PanelMirror, APanelHigherThanItsWidgetScrolls) {
     EXPECT_TRUE(IsUncovered(form, last));
 }
 
-TEST(PanelMirror, FittingThePlateToANewSizeLeavesTheFocusInThePanel) {
+TEST(PanelMirror, FittingThePlateToANewSizeTellsOnceAndLeavesTheFocus) {
     PanelForm form;
     form.widget.setFixedSize(true);
     form.widget.setRefitOnResize(true);
+    const QSignalSpy changes(&form.widget, &PlateWidget::panelChanged);
+    form.widget.resize(form.widget.size() + QSize(40, 40));
+    EXPECT_EQ(changes.size(), 1);
     form.widget.setDataVisible(true);
     form.Turn("General Properties");
     QLineEdit& columns = *form.Row("Columns");
     columns.setFocus();
+    auto before = changes.size();
     form.widget.resize(form.widget.size() + QSize(40, 40));
+    EXPECT_EQ(changes.size(), before + 1);
     EXPECT_EQ(QApplication::focusWidget(), &columns);
     EXPECT_EQ(columns.accessibleName(), "Columns");
-}
 
-TEST(PanelMirror, AnAmpersandInThePlatesNameIsNoMnemonic) {
-    PanelForm form;
-    String text = kPlateText;
-    text.replace(text.find("Demo"), 4, "A&B");
-    form.widget.plate().PlateClassText(text);
-    form.widget.setDataVisible(true);
-    EXPECT_EQ(form.widget.findChild<QGroupBox*>()->title(), "A&&B - Details");
+    columns.selectAll();
+    QTest::keyClicks(&columns, "5");
+    before = changes.size();
+    form.widget.resize(form.widget.size() + QSize(40, 40));
+    EXPECT_EQ(columns.text(), "5") << "edits wait for Apply, and the fit for them";
+    EXPECT_EQ(changes.size(), before);
+    QTest::mouseClick(&form.Apply(), Qt::LeftButton);
+    EXPECT_EQ(form.widget.plate().Cols, 5);
+    EXPECT_EQ(changes.size(), before + 1);
 }
 
 } // namespace

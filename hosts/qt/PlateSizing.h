@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QSize>
+
+namespace zorvane {
+
+class PanelMirror;
+class Plate;
+class PlateWidget;
+class StepRunner;
+
+/// Keeps the size of a widget and that of the control in it fitting each other.
+class PlateSizing final {
+  public:
+    PlateSizing(PlateWidget& widget, Plate& plate, PanelMirror& panel, StepRunner& steps);
+
+    /// The size that the control last asked for, in device-independent pixels.
+    QSize Asked() const { return asked_; }
+    /// The control asks for a size. A layout that holds the widget decides by itself.
+    void Take(QSize size);
+
+    /// Whether a plate of fixed size is fitted to each new size of the widget.
+    bool RefitOnResize() const { return refitOnResize_; }
+    void RefitOnResize(bool on);
+    /// The widget has another size.
+    void Resized();
+
+    /// Lays the plate out with its present settings.
+    void LayOut();
+
+  private:
+    void Refit();
+
+    PlateWidget& widget_;
+    Plate& plate_;
+    PanelMirror& panel_;
+    StepRunner& steps_;
+    QSize asked_{400, 270};
+    bool refitOnResize_ = false;
+    bool refitting_ = false;
+};
+
+} // namespace zorvane
