@@ -226,6 +226,7 @@ class cmPlate {
         bool inPlate = false;
         std::shared_ptr<WellDetails> subWell;
         String prefix;
+        bool tagsToRecord = false; ///< there are tags that the recorded list lacks
         // These keep their storage, so that reading a line allocates nothing.
         String line;
         String blanked;
@@ -245,6 +246,10 @@ class cmPlate {
     void RenameBlock(const String& name, const String& newName);
     void Rotate90(const WellDetails& well);
 
+    LineCode ApplyLine(std::string_view line);
+    /// Brings the recorded list of tags up to date: once for many TAG lines, which would take long
+    /// if each of them wrote the whole list.
+    void RecordTags();
     /// Applies the lines of a text for as long as the codes of the lines are at most this one.
     void ReadLines(std::string_view text, LineCode lastCode);
     Integer ReadPlate(TextFile& file);

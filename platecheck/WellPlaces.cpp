@@ -110,7 +110,7 @@ class Check {
         return deepest;
     }
 
-    /// Whether a step of so many columns and rows can lead from one position to another.
+    /// Whether a step of that many columns and rows can lead from one position to another.
     bool IsOtherPosition(Double col, Double row) const {
         const bool here = col == 0 && row == 0;
         return !here && std::abs(col) < plate_.Cols() && std::abs(row) < plate_.Rows();

@@ -225,12 +225,16 @@ void cmPlate::LineReader::AddTag(std::string_view tag) {
 }
 
 void cmPlate::LineReader::RecordTags() {
-    Record(TraitsOf(Keyword::TagList).name, plate_.TagListText(), -1);
+    if (plate_.reader_.tagsToRecord) return;
+    // The list takes its place now, and its value once no more tags come.
+    Record(TraitsOf(Keyword::TagList).name, {}, -1);
+    plate_.reader_.tagsToRecord = true;
 }
 
 void cmPlate::LineReader::ReadWell() {
     const std::string_view name = firstArgument_.empty() ? kDefaultSubWell : firstArgument_;
     StartSubWell(name);
+    plate_.RecordTags();
     plate_.reader_.prefix.assign(name).append(".");
 }
 

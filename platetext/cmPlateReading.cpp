@@ -36,6 +36,18 @@ void cmPlate::BeginReading() {
 }
 
 LineCode cmPlate::ReadLine(std::string_view line) {
+    const LineCode code = ApplyLine(line);
+    RecordTags();
+    return code;
+}
+
+void cmPlate::RecordTags() {
+    if (!reader_.tagsToRecord) return;
+    SetProperty(reader_.prefix + String(TraitsOf(Keyword::TagList).name), TagListText());
+    reader_.tagsToRecord = false;
+}
+
+LineCode cmPlate::ApplyLine(std::string_view line) {
     if (line == kResetLine) {
         // The current sub-well and the prefix stay until the next PLATE line.
         status_ = 0;
@@ -53,14 +65,16 @@ LineCode cmPlate::ReadLine(std::string_view line) {
 // By value: the name may be this object's own, which reading overwrites.
 Integer cmPlate::ReadNextPlate(TextFile& file,
                                String name) { // NOLINT(performance-unnecessary-value-param)
+    Integer result = kPlateRead;
     try {
-        const Integer result = ReadPlate(file);
-        const bool otherName = !name.empty() && !EqualNoCase(name, plateName_);
-        if (result == kPlateRead && otherName) return kOtherPlateRead;
-        return result;
+        result = ReadPlate(file);
     } catch (const RuntimeError& error) {
-        return static_cast<Integer>(error.Number());
+        result = static_cast<Integer>(error.Number());
     }
+    RecordTags();
+    const bool otherName = !name.empty() && !EqualNoCase(name, plateName_);
+    if (result == kPlateRead && otherName) return kOtherPlateRead;
+    return result;
 }
 
 Integer cmPlate::ReadPlate(TextFile& file) {
@@ -70,7 +84,7 @@ Integer cmPlate::ReadPlate(TextFile& file) {
     do {
         lineStart = file.Position();
         file.ReadLine(reader_.line);
-        code = ReadLine(Trim(reader_.line));
+        code = ApplyLine(Trim(reader_.line));
     } while (!file.AtEnd() && GoesOnAfter(code));
 
     switch (code) {
@@ -106,8 +120,9 @@ void cmPlate::ReadLines(std::string_view text, LineCode lastCode) {
         // Alone, CR and LF end no line here.
         std::replace(reader_.line.begin(), reader_.line.end(), '\r', ' ');
         std::replace(reader_.line.begin(), reader_.line.end(), '\n', ' ');
-        code = ReadLine(reader_.line);
+        code = ApplyLine(reader_.line);
     } while (!text.empty() && code <= lastCode);
+    RecordTags();
 }
 
 // By value: the name may be this object's own, which reading overwrites.
