@@ -12,7 +12,7 @@
 
 #include <algorithm>
 
-namespace zorvane {
+namespace zorvane::viewer {
 
 namespace {
 
@@ -74,4 +74,4 @@ QString WritePicture(const QString& library, const QString& plateName, const QSt
     return writer.write(picture) ? QString() : file + QStringLiteral(": ") + writer.errorString();
 }
 
-} // namespace zorvane
+} // namespace zorvane::viewer

@@ -2,10 +2,10 @@
 
 #include <QString>
 
-namespace zorvane {
+namespace zorvane::viewer {
 
-/// Writes the picture of a plate of a library to an image file, whose name's ending tells its
-/// format. Returns what is wrong; empty text when it has been written.
+/// Writes the picture of a plate of a library to an image file in the format of its extension.
+/// Returns what is wrong; empty text on success.
 QString WritePicture(const QString& library, const QString& plateName, const QString& file);
 
-} // namespace zorvane
+} // namespace zorvane::viewer

@@ -2,14 +2,19 @@
 
 #include "apps/viewer/logic/PlateDataMover.h"
 
-#include <QEvent>
-
-namespace zorvane {
+namespace zorvane::viewer {
 
 PlateSession::PlateSession(PlateWidget& widget, QObject* parent)
     : QObject(parent), widget_(widget), coloring_(widget.plate()), names_(widget.plate()) {
-    widget_.installEventFilter(this);
-    connect(this, &PlateSession::inputSeen, this, &PlateSession::ReportInput, Qt::QueuedConnection);
+    connect(&widget_, &PlateWidget::currentWellChanged, this, &PlateSession::Report);
+    connect(&widget_, &PlateWidget::selectionChanged, this, &PlateSession::Report);
+    connect(&widget_, &PlateWidget::wellDataChanged, this, &PlateSession::Report);
+    // An error code repaints nothing by itself, but may be marked.
+    connect(&widget_, &PlateWidget::wellDataChanged, &widget_, qOverload<>(&QWidget::update));
+    connect(&widget_, &PlateWidget::plateChanged, this, [this] {
+        namesOutdated_ = true;
+        Report();
+    });
     connect(&widget_, &PlateWidget::dragMoved, this,
             [this](int, int, int columns, int rows) { MoveSelection(columns, rows); });
     connect(&widget_, &PlateWidget::failed, this,
@@ -17,6 +22,20 @@ PlateSession::PlateSession(PlateWidget& widget, QObject* parent)
                 emit failed(description);
                 emit refused(number, description);
             });
+}
+
+void PlateSession::Report() {
+    if (holds_ > 0) return;
+    if (namesOutdated_) ReadNames();
+    emit changed();
+}
+
+void PlateSession::ReadNames() {
+    const Hold hold(*this); // reading them may choose a sub-well
+    namesOutdated_ = false;
+    const std::vector<String> before = names_.SubWells();
+    names_ = WellNames(Control());
+    if (names_.SubWells() != before) emit subWellsChanged();
 }
 
 bool PlateSession::Open(const QString& library, const QString& plateName) {
@@ -27,27 +46,19 @@ bool PlateSession::Open(const QString& library, const QString& plateName) {
         loaded = Control().SetPlate(plateName.toStdString(), library.toStdString());
         if (loaded) library_ = library;
         BringWellsBack();
-        names_ = WellNames(Control());
     });
     if (loaded) emit opened();
     return loaded;
 }
 
 bool PlateSession::ShowDefinition(const String& text) {
+    const Hold hold(*this);
     // Where a command has failed, the wells may not fit the plate any more.
     Edit([this] { KeepWells(); });
-    const bool shown = Edit([&] {
+    return Edit([&] {
         Control().PlateClassText(text);
         BringWellsBack();
     });
-    TakeLayout();
-    return shown;
-}
-
-void PlateSession::TakeLayout() {
-    names_ = WellNames(Control());
-    emit opened();
-    emit changed();
 }
 
 std::optional<Integer> PlateSession::CurrentWell() const {
@@ -65,7 +76,7 @@ std::vector<Integer> PlateSession::SelectedWells() const {
 
 void PlateSession::KeepWells() {
     if (!HasWells()) return;
-    ClearSelection();
+    Control().ClearSelection();
     std::vector<WellSnapshot> wells;
     for (Integer well = 0; well < Control().TotalWells(); ++well)
         wells.push_back(Capture(Control(), well));
@@ -82,26 +93,16 @@ void PlateSession::BringWellsBack() {
     for (std::size_t well = 0; well < count; ++well)
         Restore(Control(), static_cast<Integer>(well), known ? kept->second[well] : empty);
     Control().CurrentWell(0);
-    ClearSelection();
+    Control().ClearSelection();
 }
 
 void PlateSession::Deselect() {
-    if (HasWells()) ClearSelection();
-    emit changed();
-}
-
-void PlateSession::ClearSelection() {
-    Plate& plate = Control();
-    // Where only one well can be selected, a silent choice of the current well clears the selection
-    // and its count.
-    const Boolean multiple = std::exchange(plate.MultipleSelect, false);
-    plate.SetWell(plate.Row(), plate.Col(), plate.SubWell(), wsSilent);
-    plate.MultipleSelect = multiple;
+    if (HasWells()) Control().ClearSelection();
 }
 
 void PlateSession::ColorByVolume(bool on) {
+    const Hold hold(*this);
     coloring_.SetOn(on);
-    emit changed();
 }
 
 void PlateSession::SetSelectBoxEnabled(bool on) {
@@ -124,41 +125,13 @@ void PlateSession::MoveSelection(int columns, int rows) {
 
 void PlateSession::ClearSelectedWells() {
     Edit([this] {
-        const Integer current = Control().CurrentWell();
         for (const Integer well : SelectedWells()) {
             WellSnapshot cleared = EmptyWell(Control());
             cleared.selected = true;
-            cleared.rimColor = Capture(Control(), well).rimColor;
+            cleared.rimColor = Control().RimFill(well);
             Restore(Control(), well, cleared);
         }
-        Control().CurrentWell(current);
     });
 }
 
-// Not every input raises an event of the control: arrow keys do not, and what an event handler does
-// comes after the event.
-bool PlateSession::eventFilter(QObject*, QEvent* event) {
-    switch (event->type()) {
-    case QEvent::KeyPress:
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::Resize:
-    case QEvent::LayoutRequest:
-        ReportLater();
-        break;
-    default:
-        break;
-    }
-    return false;
-}
-
-void PlateSession::ReportLater() {
-    if (!std::exchange(reporting_, true)) emit inputSeen();
-}
-
-void PlateSession::ReportInput() {
-    reporting_ = false;
-    emit changed();
-}
-
-} // namespace zorvane
+} // namespace zorvane::viewer

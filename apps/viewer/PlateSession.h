@@ -14,9 +14,9 @@
 #include <utility>
 #include <vector>
 
-namespace zorvane {
+namespace zorvane::viewer {
 
-/// The plate on the screen: opens it, changes its wells, and tells the panels that show it. The
+/// The plate on the screen: opens it, changes its wells and notifies the panels that show it. The
 /// wells of a plate are kept while other plates of the same library are looked at.
 class PlateSession final : public QObject {
     Q_OBJECT
@@ -30,31 +30,31 @@ class PlateSession final : public QObject {
     const WellNames& Names() const { return names_; }
     const VolumeColoring& Coloring() const { return coloring_; }
 
-    /// Shows a plate with its first well as the current one. When it cannot, the control has said
-    /// why, and the plate before it stays.
+    /// Shows a plate with its first well as the current one. When it cannot, the control has shown
+    /// the reason, and the plate before it stays.
     bool Open(const QString& library, const QString& plateName);
-    /// Shows another definition of the plate, whose wells keep their data where there are as many.
+    /// Shows another definition of the plate. Its wells keep their data if there are as many.
     bool ShowDefinition(const String& text);
-    /// The plate has been laid out anew: the panels are to show it as it is now.
-    void TakeLayout();
     /// True when a plate with wells is shown.
     bool HasWells() const { return Control().TotalWells() > 0; }
     /// The current well, or none when it is no well of the plate.
     std::optional<Integer> CurrentWell() const;
     std::vector<Integer> SelectedWells() const;
 
-    /// Runs a change of the wells. Emits failed() when it fails, and changed() in any case.
+    /// Runs a change of the plate, of which the panels hear once it is complete. Emits failed()
+    /// when it fails, and changed() in any case.
     template <class Change>
     bool Edit(Change&& change) {
         bool done = false;
-        try {
-            coloring_.Around(std::forward<Change>(change));
-            done = true;
-        } catch (const RuntimeError& error) {
-            emit failed(QString::fromStdString(error.Description()));
+        {
+            const Hold hold(*this);
+            try {
+                coloring_.WithOwnColors(std::forward<Change>(change));
+                done = true;
+            } catch (const RuntimeError& error) {
+                emit failed(QString::fromStdString(error.Description()));
+            }
         }
-        widget_.update(); // error codes alone repaint nothing, but are marked
-        emit changed();
         return done;
     }
 
@@ -68,22 +68,32 @@ class PlateSession final : public QObject {
   signals:
     /// Another plate is shown.
     void opened();
+    /// The sub-wells of the plate, or their names, are others.
+    void subWellsChanged();
     /// The current well, the selection, the layout or some well's data may have changed.
     void changed();
     /// Something asked for was not done.
     void failed(const QString& reason);
     /// The control could not do what the operator asked of it; failed() comes too.
     void refused(int number, const QString& description);
-    /// The plate is being given input by the operator; comes before the plate has taken it.
-    void inputSeen();
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void ReportLater();
-    void ReportInput();
-    void ClearSelection();
+    /// Keeps the panels from following each step of a change.
+    class Hold {
+      public:
+        explicit Hold(PlateSession& session) : session_(session) { ++session_.holds_; }
+        ~Hold() {
+            if (--session_.holds_ == 0) session_.Report();
+        }
+        Hold(const Hold&) = delete;
+        Hold& operator=(const Hold&) = delete;
+
+      private:
+        PlateSession& session_;
+    };
+
+    void Report();
+    void ReadNames();
     void KeepWells();
     void BringWellsBack();
 
@@ -91,9 +101,10 @@ class PlateSession final : public QObject {
     VolumeColoring coloring_;
     WellNames names_;
     bool selectBox_ = false;
-    bool reporting_ = false;
+    int holds_ = 0;
+    bool namesOutdated_ = false;
     QString library_;
     std::map<String, std::vector<WellSnapshot>> kept_; // by plate name
 };
 
-} // namespace zorvane
+} // namespace zorvane::viewer

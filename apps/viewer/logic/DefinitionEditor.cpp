@@ -8,7 +8,7 @@
 
 #include <utility>
 
-namespace zorvane {
+namespace zorvane::viewer {
 
 namespace {
 
@@ -17,11 +17,10 @@ void CheckNothingLost(const cmPlate& plate, const cmPlate& shown) {
     for (const auto& pair : plate.Properties) {
         const TStringPair* const same = shown.Properties.Find(pair->Name());
         if (same && same->Value() == pair->Value()) continue;
-        throw RuntimeError(static_cast<Long>(ErrorNumber::InvalidProcedureCall), "Zorvane",
-                           "\"" + plate.PlateName() +
-                               "\" cannot be edited here: the control would lose the line \"" +
-                               pair->Name() + " " + pair->Value() +
-                               "\", at or behind a keyword that it does not know.");
+        Raise(ErrorNumber::EditNotPossible,
+              "\"" + plate.PlateName() +
+                  "\" cannot be edited here: the control would lose the line \"" + pair->Name() +
+                  " " + pair->Value() + "\", at or after a keyword that it does not know.");
     }
 }
 
@@ -30,9 +29,9 @@ void CheckNothingLost(const cmPlate& plate, const cmPlate& shown) {
 void CheckReadsBack(const String& definition) {
     const String line = LineNotReadBack(definition);
     if (line.empty()) return;
-    throw RuntimeError(static_cast<Long>(ErrorNumber::InvalidProcedureCall), "Zorvane",
-                       "\"" + NameIn(definition) + "\" was not saved: the line \"" + line +
-                           "\" could not be read back. Undo brings the plate back as it was.");
+    Raise(ErrorNumber::EditNotPossible,
+          "\"" + NameIn(definition) + "\" was not saved: the line \"" + line +
+              "\" could not be read back. Undo brings the plate back as it was.");
 }
 
 /// The text of a plate as a control gives it that has been given the plate.
@@ -72,7 +71,7 @@ void DefinitionEditor::Save() {
 void DefinitionEditor::SaveAs(const String& name) {
     String definition = Renamed(history_.Present(), name);
     CheckReadsBack(definition);
-    // The comments behind the old plate stay where they are.
+    // The comments after the old plate stay where they are.
     if (const auto old = Library().Find(plate_))
         definition = WithoutCommentsAfter(definition, *old);
     document_->Save(Library().WithAppended(definition));
@@ -110,4 +109,4 @@ String CommandFailure(Long number, const String& description) {
            ". Undo brings the plate back as it was.";
 }
 
-} // namespace zorvane
+} // namespace zorvane::viewer

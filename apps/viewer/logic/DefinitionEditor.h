@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-namespace zorvane {
+namespace zorvane::viewer {
 
 /// The definition of one plate of a library while it is edited in a control: what the control shows
 /// goes in and out as text, and the library changes only when it is saved.
@@ -58,4 +58,4 @@ class DefinitionEditor {
 /// What is said of a command of the control's panel that failed.
 String CommandFailure(Long number, const String& description);
 
-} // namespace zorvane
+} // namespace zorvane::viewer

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace zorvane {
+namespace zorvane::viewer {
 
 namespace {
 
@@ -46,4 +46,4 @@ void EventTexts::DragMove(Integer button, Integer shift, Integer columns, Intege
 
 void EventTexts::ApplyChanges() { onText_("ApplyChanges"); }
 
-} // namespace zorvane
+} // namespace zorvane::viewer

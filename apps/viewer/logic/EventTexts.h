@@ -1,19 +1,27 @@
 #pragma once
 
+#include "control/Plate.h"
 #include "control/PlateObserver.h"
 #include "runtime/Types.h"
 
 #include <functional>
 #include <utility>
 
-namespace zorvane {
+namespace zorvane::viewer {
 
-/// Writes each event of a control as one line: its name and its arguments.
+/// Writes each event of a control as one line: its name and its arguments. Observes the control for
+/// as long as it lives.
 class EventTexts final : public PlateObserver {
   public:
     /// `nameOf` gives the name of a well for people.
-    EventTexts(std::function<void(const String&)> onText, std::function<String(Integer)> nameOf)
-        : onText_(std::move(onText)), nameOf_(std::move(nameOf)) {}
+    EventTexts(Plate& plate, std::function<void(const String&)> onText,
+               std::function<String(Integer)> nameOf)
+        : plate_(plate), onText_(std::move(onText)), nameOf_(std::move(nameOf)) {
+        plate_.AddObserver(*this);
+    }
+    ~EventTexts() override { plate_.RemoveObserver(*this); }
+    EventTexts(const EventTexts&) = delete;
+    EventTexts& operator=(const EventTexts&) = delete;
 
     void DoubleClick() override;
     void Click() override;
@@ -25,8 +33,9 @@ class EventTexts final : public PlateObserver {
     void ApplyChanges() override;
 
   private:
+    Plate& plate_;
     std::function<void(const String&)> onText_;
     std::function<String(Integer)> nameOf_;
 };
 
-} // namespace zorvane
+} // namespace zorvane::viewer

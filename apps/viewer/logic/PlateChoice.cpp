@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <string>
 
-namespace zorvane {
+namespace zorvane::viewer {
 
 namespace {
 
@@ -42,20 +42,16 @@ int FirstPlate(const LibraryListing& library) {
 
 String StopText(const LibraryListing& library) {
     if (library.stoppedAtLine == 0) return {};
-    const String line = std::to_string(library.stoppedAtLine);
+    const String line = "Reading stops at line " + std::to_string(library.stoppedAtLine);
+    const String rest = " and hides the plates after it.";
     switch (library.code) {
-    case kStoppedAtInclude:
-        return "Reading stops at line " + line +
-               ": INCLUDE is not followed, and hides the plates behind it.";
     case kStoppedAtStrayLine:
-        return "Reading stops at line " + line +
-               ", which is not part of a plate and hides the plates behind it.";
+        return line + ", which is not part of a plate" + rest;
     case kStoppedAtFailedLine:
-        return "Reading stops at line " + line +
-               ", which cannot be read and hides the plates behind it.";
-    default:
-        return "Reading stops at line " + line + ": error " + std::to_string(library.code) + ".";
+        return line + ", which cannot be read" + rest;
+    default: // kStoppedAtInclude
+        return line + ": INCLUDE is not followed," + rest;
     }
 }
 
-} // namespace zorvane
+} // namespace zorvane::viewer

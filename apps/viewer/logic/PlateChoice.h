@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-namespace zorvane {
+namespace zorvane::viewer {
 
 /// Whether a plate is found by what has been typed: each of its words must occur in the plate's
 /// name or tags, in any letter case.
@@ -18,4 +18,4 @@ int FirstPlate(const LibraryListing& library);
 /// Why a listing ends before its file does, for people; empty when it does not.
 String StopText(const LibraryListing& library);
 
-} // namespace zorvane
+} // namespace zorvane::viewer

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-namespace zorvane {
+namespace zorvane::viewer {
 
 namespace {
 
@@ -15,7 +15,7 @@ struct Move {
     WellSnapshot well;
 };
 
-/// The well so many columns and rows away in the same sub-well; none outside of the plate.
+/// The well that many columns and rows away in the same sub-well; none outside the plate.
 std::optional<Integer> WellAway(const Plate& plate, Integer well, int columns, int rows) {
     const int column = well % plate.Cols + columns;
     const int row = well / plate.Cols % plate.Rows + rows;
@@ -51,4 +51,4 @@ bool MoveSelectedWells(Plate& plate, Integer columns, Integer rows) {
     return true;
 }
 
-} // namespace zorvane
+} // namespace zorvane::viewer

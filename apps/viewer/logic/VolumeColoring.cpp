@@ -1,28 +1,6 @@
 #include "apps/viewer/logic/VolumeColoring.h"
 
-#include <string>
-
-namespace zorvane {
-
-namespace {
-
-Long BottomColor(const Plate& plate, Integer well) {
-    return plate.Elements().WellBottom[static_cast<std::size_t>(well)].fill;
-}
-
-template <class ColorOfWell>
-void PaintBottoms(Plate& plate, ColorOfWell colorOf) {
-    const Integer current = plate.CurrentWell();
-    for (Integer well = 0; well < plate.TotalWells(); ++well) {
-        const Long color = colorOf(well);
-        if (color == BottomColor(plate, well)) continue;
-        plate.CurrentWell(well);
-        plate.WellColor(std::to_string(color));
-    }
-    plate.CurrentWell(current);
-}
-
-} // namespace
+namespace zorvane::viewer {
 
 void VolumeColoring::SetOn(bool on) {
     GiveBack();
@@ -32,7 +10,7 @@ void VolumeColoring::SetOn(bool on) {
 
 Long VolumeColoring::OwnColor(Integer wellNo) const {
     const auto index = static_cast<std::size_t>(wellNo);
-    return index < own_.size() ? own_[index] : BottomColor(plate_, wellNo);
+    return index < own_.size() ? own_[index] : plate_.WellFill(wellNo);
 }
 
 void VolumeColoring::Color() {
@@ -40,14 +18,15 @@ void VolumeColoring::Color() {
     if (!on_) return;
     for (Integer subWell = 1; subWell <= plate_.SubWellCount; ++subWell)
         scales_.emplace_back(plate_, subWell);
-    for (Integer well = 0; well < plate_.TotalWells(); ++well)
-        own_.push_back(BottomColor(plate_, well));
-    PaintBottoms(plate_, [this](Integer well) { return ColorOf(well); });
+    for (Integer well = 0; well < plate_.TotalWells(); ++well) {
+        own_.push_back(plate_.WellFill(well));
+        plate_.WellFill(well, ColorOf(well));
+    }
 }
 
 void VolumeColoring::GiveBack() {
-    if (own_.empty()) return;
-    PaintBottoms(plate_, [this](Integer well) { return own_[static_cast<std::size_t>(well)]; });
+    for (std::size_t well = 0; well < own_.size(); ++well)
+        plate_.WellFill(static_cast<Integer>(well), own_[well]);
     own_.clear();
 }
 
@@ -57,4 +36,4 @@ Long VolumeColoring::ColorOf(Integer wellNo) const {
     return scales_[static_cast<std::size_t>(wellNo / (plate_.Rows * plate_.Cols))].ColorOf(*volume);
 }
 
-} // namespace zorvane
+} // namespace zorvane::viewer

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace zorvane {
+namespace zorvane::viewer {
 
 /// Shows the volumes of a plate's wells as colours of their bottoms, and can give the wells their
 /// own colours back.
@@ -18,17 +18,17 @@ class VolumeColoring {
     bool IsOn() const { return on_; }
     void SetOn(bool on);
 
-    /// Runs a change of the wells with their own colours in place, and colours them anew behind it,
+    /// Runs a change of the wells with their own colours in place, and colours them again after it,
     /// whether it fails or not.
     template <class Change>
-    void Around(Change&& change) {
+    void WithOwnColors(Change&& change) {
         const Pause pause(*this);
         std::forward<Change>(change)();
     }
 
     /// The bottom colour of a well without the colouring.
     Long OwnColor(Integer wellNo) const;
-    /// The scales in force, one a sub-well; none while the colouring is off.
+    /// The scales in use, one a sub-well; none while the colouring is off.
     const std::vector<VolumeScale>& Scales() const { return scales_; }
 
   private:
@@ -50,4 +50,4 @@ class VolumeColoring {
     std::vector<Long> own_; // while the wells show their volumes
 };
 
-} // namespace zorvane
+} // namespace zorvane::viewer

@@ -1,8 +1,6 @@
 #include "apps/viewer/logic/WellSnapshot.h"
 
-#include <string>
-
-namespace zorvane {
+namespace zorvane::viewer {
 
 WellSnapshot EmptyWell(const Plate& plate) {
     WellSnapshot well;
@@ -12,16 +10,9 @@ WellSnapshot EmptyWell(const Plate& plate) {
 }
 
 WellSnapshot Capture(const Plate& plate, Integer wellNo) {
-    const auto element = static_cast<std::size_t>(wellNo);
-    const Surface& surface = plate.Elements();
-    return {plate.IsDefined(wellNo),
-            plate.IsSelected(wellNo),
-            plate.GetVolume(wellNo),
-            plate.Text(wellNo),
-            plate.ErrorCode(wellNo),
-            plate.WellAnnotation(wellNo),
-            surface.WellBottom.at(element).fill,
-            surface.WellRim.at(element).fill};
+    return {plate.IsDefined(wellNo), plate.IsSelected(wellNo), plate.GetVolume(wellNo),
+            plate.Text(wellNo),      plate.ErrorCode(wellNo),  plate.WellAnnotation(wellNo),
+            plate.WellFill(wellNo),  plate.RimFill(wellNo)};
 }
 
 void Restore(Plate& plate, Integer wellNo, const WellSnapshot& well) {
@@ -32,9 +23,8 @@ void Restore(Plate& plate, Integer wellNo, const WellSnapshot& well) {
     plate.Text(wellNo, well.text);
     plate.ErrorCode(wellNo, well.errorCode);
     plate.WellAnnotation(wellNo, well.annotation);
-    plate.CurrentWell(wellNo);
-    plate.WellColor(std::to_string(well.bottomColor));
-    plate.RimColor(std::to_string(well.rimColor));
+    plate.WellFill(wellNo, well.bottomColor);
+    plate.RimFill(wellNo, well.rimColor);
 }
 
-} // namespace zorvane
+} // namespace zorvane::viewer

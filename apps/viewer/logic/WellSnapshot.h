@@ -3,7 +3,7 @@
 #include "control/Plate.h"
 #include "runtime/Types.h"
 
-namespace zorvane {
+namespace zorvane::viewer {
 
 /// Everything that a control keeps for one well on behalf of its host.
 struct WellSnapshot {
@@ -19,13 +19,12 @@ struct WellSnapshot {
     friend bool operator==(const WellSnapshot&, const WellSnapshot&) = default;
 };
 
-/// What a well holds that nothing has been done to.
+/// What an untouched well holds.
 WellSnapshot EmptyWell(const Plate& plate);
 
 WellSnapshot Capture(const Plate& plate, Integer wellNo);
 
-/// Writes a snapshot to a well and makes it the current one. The count of selected wells is not
-/// changed.
+/// Writes a snapshot to a well. The count of selected wells stays as it is.
 void Restore(Plate& plate, Integer wellNo, const WellSnapshot& well);
 
-} // namespace zorvane
+} // namespace zorvane::viewer

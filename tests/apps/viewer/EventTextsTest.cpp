@@ -6,13 +6,15 @@
 
 #include <vector>
 
-namespace zorvane {
+namespace zorvane::viewer {
 namespace {
 
 TEST(EventTexts, WriteEachEventWithItsArguments) {
     std::vector<String> lines;
-    EventTexts texts([&](const String& line) { lines.push_back(line); },
-                     [](Integer well) { return well == 6 ? String("B1, Drop1") : String(); });
+    LoadedPlate host;
+    EventTexts texts(
+        host.plate, [&](const String& line) { lines.push_back(line); },
+        [](Integer well) { return well == 6 ? String("B1, Drop1") : String(); });
     texts.DoubleClick();
     texts.Click();
     texts.SelectWell(6);
@@ -31,4 +33,4 @@ TEST(EventTexts, WriteEachEventWithItsArguments) {
 }
 
 } // namespace
-} // namespace zorvane
+} // namespace zorvane::viewer

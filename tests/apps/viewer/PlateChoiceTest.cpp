@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zorvane {
+namespace zorvane::viewer {
 namespace {
 
 LibraryEntry Entry(const String& name, Long subWells, const String& tags = {}, bool found = true) {
@@ -30,4 +30,4 @@ TEST(FirstPlate, PrefersAPlateWithDropsToOneWithoutToThePlaceholder) {
 }
 
 } // namespace
-} // namespace zorvane
+} // namespace zorvane::viewer

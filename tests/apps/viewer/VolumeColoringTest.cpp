@@ -4,11 +4,11 @@
 
 #include <gtest/gtest.h>
 
-namespace zorvane {
+namespace zorvane::viewer {
 namespace {
 
 struct ColoredPlate : LoadedPlate {
-    Long Bottom(std::size_t well) const { return plate.Elements().WellBottom[well].fill; }
+    Long Bottom(Integer well) const { return plate.WellFill(well); }
     VolumeColoring coloring{plate};
 };
 
@@ -39,7 +39,7 @@ TEST(VolumeColoring, KeepsUpWithChangesAlsoWithThoseThatFail) {
     ColoredPlate host;
     Plate& plate = host.plate;
     host.coloring.SetOn(true);
-    EXPECT_THROW(host.coloring.Around([&] {
+    EXPECT_THROW(host.coloring.WithOwnColors([&] {
         plate.SetVolume(4, 7);
         plate.IsDefined(5, true);
         throw RuntimeError(9, "", "");
@@ -49,11 +49,11 @@ TEST(VolumeColoring, KeepsUpWithChangesAlsoWithThoseThatFail) {
     EXPECT_EQ(host.Bottom(5), VolumeScale::kZeroColor);
 
     // A smaller plate.
-    host.coloring.Around([&] { plate.PlateClassText(TwoSubWells(1, 2)); });
+    host.coloring.WithOwnColors([&] { plate.PlateClassText(TwoSubWells(1, 2)); });
     EXPECT_EQ(plate.TotalWells(), 4);
     host.coloring.SetOn(false);
     EXPECT_EQ(host.Bottom(3), plate.DefaultWellColor());
 }
 
 } // namespace
-} // namespace zorvane
+} // namespace zorvane::viewer

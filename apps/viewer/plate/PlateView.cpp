@@ -1,0 +1,41 @@
+#include "apps/viewer/plate/PlateView.h"
+
+#include "apps/viewer/PlateSession.h"
+#include "apps/viewer/plate/CurrentWellMark.h"
+#include "apps/viewer/plate/VolumeLegend.h"
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace zorvane::viewer {
+
+PlateView::PlateView(QWidget* parent)
+    : QStackedWidget(parent), scroll_(new QScrollArea), plate_(new PlateWidget),
+      page_(new QWidget) {
+    auto* hint = new QLabel(tr("Open a plate library, or drop one here."));
+    hint->setAlignment(Qt::AlignCenter);
+    hint->setEnabled(false);
+
+    plate_->setAccessibleName(tr("Plate"));
+    plate_->setRefitOnResize(true);
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->setWidget(plate_);
+    SetFitted(true);
+
+    auto* layout = new QVBoxLayout(page_);
+    layout->addWidget(scroll_, 1);
+    addWidget(hint);
+    addWidget(page_);
+}
+
+void PlateView::SetSession(PlateSession& session) {
+    page_->layout()->addWidget(new VolumeLegend(session));
+    new CurrentWellMark(session);
+    connect(&session, &PlateSession::opened, this, [this] { setCurrentWidget(page_); });
+}
+
+void PlateView::SetFitted(bool on) { scroll_->setWidgetResizable(on); }
+
+} // namespace zorvane::viewer

@@ -1,0 +1,70 @@
+#include "apps/viewer/window/DockPanels.h"
+
+#include "apps/viewer/editing/DifferencePanel.h"
+#include "apps/viewer/panels/EventLog.h"
+#include "apps/viewer/panels/LibraryPanel.h"
+#include "apps/viewer/panels/ViewSettings.h"
+#include "apps/viewer/panels/WellInspector.h"
+#include "apps/viewer/plate/PlateView.h"
+
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QScrollArea>
+
+namespace zorvane::viewer {
+
+namespace {
+
+constexpr int kEventsHeight = 130; // pixels
+
+QDockWidget* AddDock(QMainWindow& window, const QString& title, QWidget* content,
+                     Qt::DockWidgetArea area) {
+    auto* dock = new QDockWidget(title, &window);
+    dock->setObjectName(title);
+    dock->setWidget(content);
+    window.addDockWidget(area, dock);
+    return dock;
+}
+
+/// A panel that scrolls where the window is too low for it.
+QWidget* Scrolled(QWidget* panel) {
+    auto* scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(panel);
+    scroll->setMinimumWidth(panel->sizeHint().width() + 16);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    return scroll;
+}
+
+} // namespace
+
+DockPanels::DockPanels(QMainWindow& window, PlateSession& session, PlateView& view)
+    : library_(new LibraryPanel), events_(new EventLog), difference_(new DifferencePanel) {
+    auto* settings = new ViewSettings(session);
+    QObject::connect(settings, &ViewSettings::fixedSizeChanged, &view, &PlateView::SetFitted);
+
+    AddDock(window, tr("Plates"), library_, Qt::LeftDockWidgetArea);
+    QDockWidget* well =
+        AddDock(window, tr("Well"), Scrolled(new WellInspector(session)), Qt::RightDockWidgetArea);
+    QDockWidget* options =
+        AddDock(window, tr("Settings"), Scrolled(settings), Qt::RightDockWidgetArea);
+    window.tabifyDockWidget(well, options);
+    differenceDock_ = AddDock(window, tr("Difference"), difference_, Qt::RightDockWidgetArea);
+    window.tabifyDockWidget(options, differenceDock_);
+    differenceDock_->hide();
+    well->raise();
+    QDockWidget* events = AddDock(window, tr("Events"), events_, Qt::BottomDockWidgetArea);
+    window.setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
+    window.setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    window.resizeDocks({events}, {kEventsHeight}, Qt::Vertical);
+}
+
+void DockPanels::ShowDifference(bool on) const {
+    differenceDock_->setVisible(on);
+    if (on) differenceDock_->raise();
+}
+
+} // namespace zorvane::viewer

@@ -1,0 +1,80 @@
+#include "apps/viewer/window/LibraryBrowser.h"
+
+#include "apps/viewer/PlateSession.h"
+#include "apps/viewer/editing/EditMode.h"
+#include "apps/viewer/logic/PlateChoice.h"
+#include "apps/viewer/panels/LibraryPanel.h"
+#include "runtime/RuntimeError.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+namespace zorvane::viewer {
+
+LibraryBrowser::LibraryBrowser(PlateSession& session, EditMode& editing, LibraryPanel& panel,
+                               QWidget& window)
+    : QObject(&window), session_(session), editing_(editing), panel_(panel), window_(window) {
+    connect(&panel, &LibraryPanel::plateChosen, this, &LibraryBrowser::ShowPlate);
+    connect(&editing, &EditMode::libraryChanged, this, &LibraryBrowser::ListAgain);
+}
+
+bool LibraryBrowser::Open(const QString& file) {
+    if (!editing_.MayLeave()) return false;
+    const auto listing = Read(file);
+    if (!listing) return false;
+    editing_.Stop();
+    file_ = file;
+    panel_.Show(*listing);
+    emit opened(file);
+    panel_.Choose(FirstPlate(*listing));
+    return true;
+}
+
+void LibraryBrowser::AskAndOpen() {
+    const QString file =
+        QFileDialog::getOpenFileName(&window_, tr("Open Plate Library"), QFileInfo(file_).path(),
+                                     tr("Plate libraries (*.dat *.Dat *.DAT);;All files (*)"));
+    if (!file.isEmpty()) Open(file);
+}
+
+void LibraryBrowser::SwitchEditing(bool on) {
+    const QString plate = session_.Widget().plateName();
+    if (on) {
+        editing_.Start(file_, plate);
+    } else if (editing_.MayLeave()) {
+        editing_.Stop();
+        session_.Open(file_, plate);
+    }
+}
+
+void LibraryBrowser::ShowPlate(const QString& name) {
+    emit aboutToShowPlate();
+    const bool shown = editing_.MayLeave() && session_.Open(file_, name);
+    if (!shown) {
+        panel_.SetChosen(session_.Widget().plateName());
+    } else if (editing_.IsOn() && !editing_.Start(file_, name)) {
+        editing_.Stop();
+    }
+    emit plateShown();
+}
+
+/// Lists what the library holds now, with the edited plate chosen.
+void LibraryBrowser::ListAgain(const QString& plate) {
+    const auto listing = Read(file_);
+    if (!listing) return;
+    panel_.Show(*listing);
+    panel_.SetChosen(plate);
+}
+
+std::optional<LibraryListing> LibraryBrowser::Read(const QString& file) {
+    try {
+        return ListLibrary(file.toStdString());
+    } catch (const RuntimeError& error) {
+        emit failed(
+            tr("%1 cannot be opened: %2.")
+                .arg(QFileInfo(file).fileName(), QString::fromStdString(error.Description())));
+        return std::nullopt;
+    }
+}
+
+} // namespace zorvane::viewer

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platetext/LibraryIndex.h"
+
+#include <QObject>
+#include <QString>
+
+#include <optional>
+
+class QWidget;
+
+namespace zorvane::viewer {
+
+class EditMode;
+class LibraryPanel;
+class PlateSession;
+
+/// Opens libraries and shows their plates, asking first where edits would be lost.
+class LibraryBrowser final : public QObject {
+    Q_OBJECT
+
+  public:
+    LibraryBrowser(PlateSession& session, EditMode& editing, LibraryPanel& panel, QWidget& window);
+
+    /// The library that is open; empty before the first one.
+    const QString& File() const { return file_; }
+    /// Opens a library and shows one of its plates. Emits failed(), and keeps what was open, when
+    /// the file cannot be read. Returns whether the library is open.
+    bool Open(const QString& file);
+    /// Lets the operator choose the library to open.
+    void AskAndOpen();
+    /// Begins or ends editing the plate that is shown. Unsaved edits may keep it from ending.
+    void SwitchEditing(bool on);
+
+  signals:
+    void opened(const QString& file);
+    void aboutToShowPlate();
+    /// A plate of the library has been asked for; it is shown unless the control has failed.
+    void plateShown();
+    void failed(const QString& reason);
+
+  private:
+    void ShowPlate(const QString& name);
+    void ListAgain(const QString& plate);
+    std::optional<LibraryListing> Read(const QString& file);
+
+    PlateSession& session_;
+    EditMode& editing_;
+    LibraryPanel& panel_;
+    QWidget& window_;
+    QString file_;
+};
+
+} // namespace zorvane::viewer

@@ -1,0 +1,116 @@
+#include "apps/viewer/window/MainMenu.h"
+
+#include "apps/viewer/PlateSession.h"
+#include "apps/viewer/editing/EditMenu.h"
+#include "apps/viewer/fill/FillDialog.h"
+#include "apps/viewer/window/LibraryBrowser.h"
+#include "apps/viewer/window/RecentFiles.h"
+#include "apps/viewer/window/WellDataFiles.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QToolBar>
+
+namespace zorvane::viewer {
+
+namespace {
+
+QIcon Icon(const char* name) { return QIcon::fromTheme(QLatin1String(name)); }
+
+} // namespace
+
+MainMenu::MainMenu(QMainWindow& window, PlateSession& session)
+    : QObject(&window), window_(window), session_(session), tools_(window.addToolBar(tr("Tools"))),
+      needWells_(new QActionGroup(this)) {
+    tools_->setObjectName(QStringLiteral("Tools"));
+    tools_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    needWells_->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
+}
+
+void MainMenu::SetHasWells(bool on) { needWells_->setEnabled(on); }
+
+void MainMenu::AddFileMenu(LibraryBrowser& library, WellDataFiles& data) {
+    QMenu& menu = *window_.menuBar()->addMenu(tr("&File"));
+    QAction* open = menu.addAction(Icon("document-open"), tr("&Open Library…"), QKeySequence::Open,
+                                   &library, &LibraryBrowser::AskAndOpen);
+    open->setIconText(tr("Open"));
+    auto* recent = new RecentFiles(&window_);
+    menu.addMenu(recent);
+    connect(recent, &RecentFiles::chosen, &library, &LibraryBrowser::Open);
+    connect(&library, &LibraryBrowser::opened, recent, &RecentFiles::Add);
+    menu.addSeparator();
+    QAction* import =
+        menu.addAction(Icon("document-import"), tr("&Import Well Data…"),
+                       QKeySequence(tr("Ctrl+I")), &data, &WellDataFiles::AskAndImport);
+    import->setIconText(tr("Import"));
+    QAction* exporting =
+        menu.addAction(Icon("document-export"), tr("&Export Well Data…"),
+                       QKeySequence(tr("Ctrl+E")), &data, &WellDataFiles::AskAndExport);
+    exporting->setIconText(tr("Export"));
+    menu.addSeparator();
+    QAction* quit = menu.addAction(tr("&Quit"), QKeySequence::Quit, &window_, &QWidget::close);
+    quit->setMenuRole(QAction::QuitRole);
+
+    needWells_->addAction(import);
+    needWells_->addAction(exporting);
+    tools_->addActions({open, import, exporting});
+    tools_->addSeparator();
+}
+
+void MainMenu::AddEditMenu(LibraryBrowser& library, EditMode& editing) {
+    auto* menu = new EditMenu(library, editing, &window_);
+    window_.menuBar()->addMenu(menu);
+    needWells_->addAction(menu->Toggle());
+    tools_->addAction(menu->Toggle());
+}
+
+void MainMenu::AddWellsMenu() {
+    QMenu& menu = *window_.menuBar()->addMenu(tr("&Wells"));
+    QAction* fill = menu.addAction(Icon("fill-color"), tr("&Fill Block…"),
+                                   QKeySequence(tr("Ctrl+F")), this, &MainMenu::ShowFillDialog);
+    fill->setIconText(tr("Fill Block"));
+    needWells_->addAction(fill);
+    needWells_->addAction(menu.addAction(tr("&Clear Selected Wells"), QKeySequence::Delete,
+                                         &session_, &PlateSession::ClearSelectedWells));
+    needWells_->addAction(menu.addAction(tr("&Deselect All"), QKeySequence(tr("Ctrl+Shift+A")),
+                                         &session_, &PlateSession::Deselect));
+    tools_->addAction(fill);
+}
+
+void MainMenu::AddViewMenu() {
+    QMenu& menu = *window_.menuBar()->addMenu(tr("&View"));
+    QAction* volumes = menu.addAction(tr("&Colour Wells by Volume"));
+    volumes->setIconText(tr("Volumes"));
+    volumes->setCheckable(true);
+    volumes->setShortcut(QKeySequence(tr("Ctrl+L")));
+    connect(volumes, &QAction::toggled, &session_, &PlateSession::ColorByVolume);
+    needWells_->addAction(volumes);
+    tools_->addAction(volumes);
+    menu.addSeparator();
+    for (QDockWidget* dock : window_.findChildren<QDockWidget*>())
+        menu.addAction(dock->toggleViewAction());
+}
+
+void MainMenu::AddHelpMenu() {
+    QMenu& menu = *window_.menuBar()->addMenu(tr("&Help"));
+    QAction* about = menu.addAction(tr("&About Plate Viewer"), this, &MainMenu::ShowAbout);
+    about->setMenuRole(QAction::AboutRole);
+}
+
+void MainMenu::ShowFillDialog() {
+    FillDialog dialog(session_, &window_);
+    dialog.exec();
+}
+
+void MainMenu::ShowAbout() {
+    QMessageBox::about(&window_, tr("About Plate Viewer"),
+                       tr("<h3>Plate Viewer %1</h3><p>Shows the plates of a library, and the data "
+                          "of their wells.</p>")
+                           .arg(QApplication::applicationVersion()));
+}
+
+} // namespace zorvane::viewer

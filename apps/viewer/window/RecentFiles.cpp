@@ -1,0 +1,44 @@
+#include "apps/viewer/window/RecentFiles.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+
+namespace zorvane::viewer {
+
+namespace {
+
+constexpr qsizetype kMostFiles = 8;
+constexpr const char* kKey = "recentLibraries";
+
+} // namespace
+
+RecentFiles::RecentFiles(QWidget* parent) : QMenu(tr("Open &Recent"), parent) {
+    setToolTipsVisible(true);
+    connect(this, &QMenu::aboutToShow, this, &RecentFiles::Fill);
+    Fill();
+}
+
+void RecentFiles::Add(const QString& file) {
+    const QString path = QFileInfo(file).absoluteFilePath();
+    QSettings settings;
+    QStringList files = settings.value(kKey).toStringList();
+    files.removeAll(path);
+    files.prepend(path);
+    settings.setValue(kKey, files.mid(0, kMostFiles));
+    Fill();
+}
+
+void RecentFiles::Fill() {
+    clear();
+    const QStringList files = QSettings().value(kKey).toStringList();
+    for (const QString& file : files) {
+        // An ampersand would mark an access key.
+        QAction* action = addAction(QFileInfo(file).fileName().replace('&', "&&"));
+        action->setToolTip(QDir::toNativeSeparators(file));
+        connect(action, &QAction::triggered, this, [this, file] { emit chosen(file); });
+    }
+    setEnabled(!files.isEmpty());
+}
+
+} // namespace zorvane::viewer
