@@ -38,19 +38,6 @@ QString ToolTipAt(Form& form, int well) {
 
 } // namespace
 
-TEST(PlateWidgetAids, AreOffAtFirst) {
-    Form form;
-    Click(form, form.At(0));
-    Click(form, form.At(8), Qt::ShiftModifier);
-    EXPECT_EQ(Selected(form), " 8");
-    form.Signals();
-    Click(form, LegendPlace(form, "B"));
-    EXPECT_EQ(form.Signals().substr(0, 12), "mousePressed");
-    QTest::keyClick(&form.widget, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&form.widget, Qt::Key_Escape);
-    EXPECT_EQ(Selected(form), " 8");
-}
-
 TEST(PlateWidgetAids, ShiftExtendsFromTheWellThatWasCurrent) {
     Form form;
     form.widget.setAid(Aid::ShiftExtendsSelection);
@@ -119,20 +106,10 @@ TEST(PlateWidgetAids, TooltipsTellWhatIsKnownOfAWell) {
     EXPECT_EQ(ToolTipAt(form, 24), "A1, Reservoir");
 }
 
-TEST(PlateWidgetAids, HintsShowAndGo) {
+TEST(PlateWidgetAids, LegendsAreLitWhileThePointerIsOverAWell) {
     Form form;
-    Plate& plate = form.widget.plate();
-    plate.ErrorWellColor = 0x0000FF;
-    plate.ErrorCode(8, 3);
-    plate.IsDefined(8, true);
+    form.widget.setAid(Aid::HighlightLegends);
     const QImage plain = form.Picture();
-    form.widget.setAid(Aid::ErrorMarks);
-    const QImage marked = form.Picture();
-    EXPECT_NE(marked, plain);
-    plate.ErrorCode(8, 0);
-    EXPECT_EQ(form.Picture(), plain) << "no error, no mark";
-
-    form.widget.setAids(Aid::HighlightLegends);
     QTest::mouseMove(&form.widget, form.At(9));
     EXPECT_NE(form.Picture(), plain);
     QEvent leave(QEvent::Leave);

@@ -102,16 +102,6 @@ TEST(PlateWidgetPainting, AidsAndOutlinesLieOverThePlate) {
     ExpectGolden(pictures, "plate-overlays");
 }
 
-TEST(PlateWidgetPainting, WellsStandWhereTheControlSays) {
-    Form form;
-    form.widget.plate().WellIndex(1);
-    form.widget.plate().CurrentWell(8);
-    form.widget.plate().WellColor("255");
-    const QImage picture = form.Picture();
-    const QPointF centre = QPointF(form.At(8)) * picture.devicePixelRatio();
-    EXPECT_EQ(picture.pixelColor(centre.toPoint()), QColor(Qt::red));
-}
-
 TEST(PlateWidgetPainting, OnlyTheChangedWellIsPaintedAgain) {
     Form form;
     QRegion painted;
@@ -133,16 +123,6 @@ TEST(PlateWidgetPainting, OnlyTheChangedWellIsPaintedAgain) {
     const QRect well(form.At(8) - QPoint(13, 13), QSize(26, 26));
     EXPECT_FALSE(painted.isEmpty());
     EXPECT_TRUE(well.contains(painted.boundingRect())) << painted.boundingRect().width();
-}
-
-TEST(PlateWidgetPainting, TheFocusShowsWhenTheKeyboardBroughtIt) {
-    Form form;
-    QApplication::setActiveWindow(&form.widget);
-    form.widget.setFocus(Qt::MouseFocusReason);
-    const QImage plain = form.Picture();
-    form.widget.clearFocus();
-    form.widget.setFocus(Qt::TabFocusReason);
-    EXPECT_NE(form.Picture(), plain);
 }
 
 } // namespace zorvane

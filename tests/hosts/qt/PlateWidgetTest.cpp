@@ -106,11 +106,6 @@ TEST(PlateWidget, ANewOneLoadsTheFirstPlateOnceShown) {
     EXPECT_EQ(widget.plateName(), "");
     widget.show();
     EXPECT_EQ(widget.plateName(), "No_Plate");
-
-    PlateWidget without;
-    without.setFileName("nowhere.dat");
-    without.show();
-    EXPECT_EQ(without.plateName(), "");
 }
 
 TEST(PlateWidget, ColoursArePropertiesAndAnInvalidOneBringsBackTheFirst) {

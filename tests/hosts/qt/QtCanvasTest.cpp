@@ -40,55 +40,38 @@ QRect Extent(const QImage& image) {
 
 } // namespace
 
-TEST(QtCanvas, CirclesAreRoundCentredAndOutlinedByOneDevicePixel) {
-    for (const double ratio : {1.0, 1.25, 2.0}) {
+TEST(QtCanvas, ShapesFallOnWholeDevicePixels) {
+    for (const double ratio : {1.0, 1.25, 2.0, 10.0}) {
         SCOPED_TRACE(ratio);
-        // 30 by 20 pixels at (4, 8): the circle has 20 across and stands 5 further right.
-        const QImage image = Painted(ratio, [](QtCanvas& canvas) {
+        // 30 by 20 pixels at (4, 8): the circle has 20 across and stands 5 further right. At the
+        // last scale it is too large to be kept as an image.
+        const QImage circle = Painted(ratio, [](QtCanvas& canvas) {
             canvas.DrawShape({ShapeKind::Circle, kRed, true}, {60, 120, 450, 300});
         });
         const int size = qRound(20 * ratio);
-        const QRect extent = Extent(image);
-        EXPECT_NEAR(extent.left(), 9 * ratio, 0.51);
-        EXPECT_EQ(extent.top(), qRound(8 * ratio));
-        EXPECT_EQ(extent.size(), QSize(size, size));
+        const QRect round = Extent(circle);
+        EXPECT_NEAR(round.left(), 9 * ratio, 0.51);
+        EXPECT_EQ(round.top(), qRound(8 * ratio));
+        EXPECT_EQ(round.size(), QSize(size, size));
+        const int middle = round.top() + size / 2;
+        EXPECT_EQ(circle.pixel(round.left() + 2, middle), kRedPixel);
+        EXPECT_LT(qRed(circle.pixel(round.left(), middle)), 100);
+        EXPECT_NE(circle.pixel(round.left() + size / 7, round.top() + size / 7), kRedPixel);
 
-        const int middle = extent.top() + size / 2;
-        EXPECT_EQ(image.pixel(extent.left() + 2, middle), kRedPixel);
-        EXPECT_LT(qRed(image.pixel(extent.left(), middle)), 100);
-        EXPECT_NE(image.pixel(extent.left() + size / 7, extent.top() + size / 7), kRedPixel);
-    }
-}
-
-TEST(QtCanvas, RectanglesAreCrispAtEveryScale) {
-    for (const double ratio : {1.0, 1.25, 2.0}) {
-        SCOPED_TRACE(ratio);
-        const QImage image = Painted(ratio, [](QtCanvas& canvas) {
+        const QImage box = Painted(ratio, [](QtCanvas& canvas) {
             canvas.DrawShape({ShapeKind::Rectangle, kRed, true}, {60, 60, 240, 120});
         });
-        const QRect extent = Extent(image);
-        EXPECT_EQ(extent, QRect(qRound(4 * ratio), qRound(4 * ratio), qRound(16 * ratio),
-                                qRound(8 * ratio)));
-        for (int x = extent.left(); x <= extent.right(); ++x) {
-            EXPECT_EQ(image.pixel(x, extent.top()), kBlackPixel);
-            EXPECT_EQ(image.pixel(x, extent.bottom()), kBlackPixel);
+        const QRect edge = Extent(box);
+        EXPECT_EQ(edge, QRect(qRound(4 * ratio), qRound(4 * ratio), qRound(16 * ratio),
+                              qRound(8 * ratio)));
+        for (int x = edge.left() + 1; x < edge.right(); ++x) {
+            EXPECT_EQ(box.pixel(x, edge.top()), kBlackPixel);
+            EXPECT_EQ(box.pixel(x, edge.top() + 1), kRedPixel);
         }
-        for (int x = extent.left() + 1; x < extent.right(); ++x)
-            EXPECT_EQ(image.pixel(x, extent.top() + 1), kRedPixel);
     }
-}
-
-TEST(QtCanvas, ShapesTooLargeToKeepLookLikeTheOthers) {
     ShapeImages images;
-    const ShapeStyle style{ShapeKind::Circle, kRed, true};
-    ASSERT_NE(images.Find(style, {256, 256}), nullptr);
-    ASSERT_EQ(images.Find(style, {257, 257}), nullptr);
-    ASSERT_EQ(images.Find(style, {0, 5}), nullptr);
-    const QImage image = Painted(10, [&](QtCanvas& canvas) {
-        canvas.DrawShape(style, {15, 15, 450, 450});
-    });
-    EXPECT_EQ(Extent(image), QRect(10, 10, 300, 300));
-    EXPECT_EQ(image.pixel(160, 160), kRedPixel);
+    EXPECT_EQ(images.Find({ShapeKind::Circle, kRed, true}, {257, 257}), nullptr);
+    EXPECT_EQ(images.Find({ShapeKind::Circle, kRed, true}, {0, 5}), nullptr);
 }
 
 } // namespace zorvane
