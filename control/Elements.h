@@ -24,7 +24,7 @@ enum class ShapeKind : std::uint8_t {
 /// A filled shape with an optional outline of one pixel.
 struct Shape {
     Rect box;
-    Long fill = 0xE0E0E0;
+    Long fill = kDefaultWellColor;
     ShapeKind kind = ShapeKind::Rectangle;
     Boolean border = true;
     Boolean visible = false;

@@ -10,12 +10,29 @@ void Notifier::WellDataChanged(Integer first, Integer last) {
                   : std::pair(first, last);
 }
 
+void Notifier::RepaintInPlate(const Rect& area) {
+    const Frame& plate = surface_.fraPlate;
+    if (plate.visible) Repaint(area.Moved(plate.box.left, plate.box.top));
+}
+
+// The area that the panel takes up now; HandOut adds the one that it takes up then.
+void Notifier::PanelChanged() {
+    pending_.panel = true;
+    if (surface_.fraData.visible) Repaint(surface_.fraData.box);
+}
+
+void Notifier::DataButtonChanged() {
+    pending_.dataButton = true;
+    Repaint(surface_.cmdData.box);
+}
+
 void Notifier::EndOperation() {
     if (--depth_ == 0) HandOut();
 }
 
 // What is told is no longer pending: the host may answer with operations of its own.
 void Notifier::HandOut() {
+    if (pending_.panel) PanelChanged();
     const Pending changes = std::exchange(pending_, {});
     const Pause pause(depth_);
     TellSite(changes);

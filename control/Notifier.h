@@ -1,6 +1,7 @@
 #pragma once
 
 #include "control/PlateEvents.h"
+#include "control/Surface.h"
 #include "platform/HostSite.h"
 #include "runtime/Geometry.h"
 #include "runtime/Types.h"
@@ -18,8 +19,10 @@ namespace zorvane {
 /// sees a stale picture meanwhile. What the host does while it answers is an operation of its own.
 class Notifier final : public HostSite {
   public:
-    /// The site must outlive this object, as must the number of the current well.
-    Notifier(HostSite& site, const Integer& currentWell) : site_(site), currentWell_(currentWell) {}
+    /// Reads from the surface where things are shown; the well number is that of the current well.
+    /// All must outlive this object.
+    Notifier(HostSite& site, const Surface& surface, const Integer& currentWell)
+        : site_(site), surface_(surface), currentWell_(currentWell) {}
 
     void AddObserver(PlateObserver& observer) { observers_.Add(observer); }
     void RemoveObserver(PlateObserver& observer) noexcept { observers_.Remove(observer); }
@@ -55,13 +58,16 @@ class Notifier final : public HostSite {
     /// after it would wipe it.
     void HandOut();
 
-    // What has changed. RepaintAll covers the panel too.
+    // What has changed, or is about to.
 
     void Repaint(const Rect& area) override { pending_.area = Union(pending_.area, area); }
+    /// An area in the coordinates of the plate area.
+    void RepaintInPlate(const Rect& area);
+    /// The whole control, the panel too.
     void RepaintAll() { pending_.everything = pending_.panel = true; }
     void Resize(Single width, Single height) override { pending_.size = {width, height}; }
-    void PanelChanged() override { pending_.panel = true; }
-    void DataButtonChanged() override { pending_.dataButton = true; }
+    void PanelChanged() override;
+    void DataButtonChanged() override;
     void SelectionChanged() { pending_.selection = true; }
     void WellDataChanged(Integer first, Integer last);
     void PlateChanged() { pending_.plate = true; }
@@ -118,6 +124,7 @@ class Notifier final : public HostSite {
     void TellObservers(const Pending& changes);
 
     HostSite& site_;
+    const Surface& surface_;
     PlateEvents observers_;
     const Integer& currentWell_;
     Integer toldWell_ = 0;

@@ -1,14 +1,11 @@
 #pragma once
 
-#include "control/ArrayFill.h"
-#include "control/ControlParts.h"
-#include "control/Notifier.h"
 #include "control/PlateFields.h"
 #include "control/PlateObserver.h"
-#include "control/PlateState.h"
 #include "control/PlateTypes.h"
 #include "control/Surface.h"
-#include "control/cmFocus.h"
+#include "model/cmPlate.h"
+#include "platform/HostSite.h"
 #include "platform/PropertyStore.h"
 #include "runtime/Types.h"
 
@@ -22,7 +19,9 @@ namespace zorvane {
 /// A well number counts from 0: the well of sub-well s (from 1) at row r and column c (from 0) is
 /// (s - 1) * Rows * Cols + r * Cols + c. Lengths of the plate are millimetres, those of the drawing
 /// are drawing units (twips, 1440 an inch). Every failure is a RuntimeError.
-class Plate : public PlateState {
+///
+/// Every call is one operation: the host is told once, at its end, what has changed.
+class Plate : public PlateFields {
   public:
     /// Starts the control up: its outline drawer exists and its library is the default one, but no
     /// plate is loaded. The site must outlive the control.
@@ -43,8 +42,8 @@ class Plate : public PlateState {
     /// Loads the plate PName (case does not matter) from the library FName, or from FileName when
     /// that is empty. A failure shows a message, answers False and leaves the drawing as it was.
     Boolean SetPlate(const String& PName, const String& FName = {});
-    String PlateName() const { return PlateState::PlateName; }
-    /// SetPlate with FileName; whether that worked is not told.
+    String PlateName() const;
+    /// SetPlate with FileName; does not tell whether that worked.
     void PlateName(const String& value);
     /// The definition text of the loaded plate.
     String PlateClassText() const;
@@ -64,17 +63,17 @@ class Plate : public PlateState {
     /// The centre of a well position, in mm; the sub-well name is accepted and makes no difference.
     void WellCentroid(Single& X, Single& Y, Single& Z, Integer Row, Integer Col,
                       const String& SubPlateName = {}) const;
-    Integer TotalWells() const { return PlateState::TotalWells; }
+    Integer TotalWells() const;
 
     // Appearance.
 
-    Single DrawingScale() const { return PlateState::DrawingScale; }
+    Single DrawingScale() const;
     /// Drawing units per millimetre; lays the plate out again once one is loaded.
     void DrawingScale(Single value);
-    Long DefaultRimColor() const { return PlateState::DefaultRimColor; }
+    Long DefaultRimColor() const;
     /// Wells already drawn keep their colour until they are coloured again.
     void DefaultRimColor(Long value);
-    Long DefaultWellColor() const { return PlateState::DefaultWellColor; }
+    Long DefaultWellColor() const;
     void DefaultWellColor(Long value);
 
     // The details panel, whose pages are numbered as in PanelElements.h.
@@ -82,28 +81,28 @@ class Plate : public PlateState {
     /// Whether the details panel is open.
     Boolean DataVisible() const;
     void DataVisible(Boolean value);
-    Boolean EditEnable() const { return PlateState::EditEnable; }
+    Boolean EditEnable() const;
     /// Lets the operator edit the plate definition in the panel.
     void EditEnable(Boolean value);
     /// Whether the panel holds edits that ApplyPressed would take.
-    Boolean EditsPending() const { return surface_.panel.cmdApply.enabled; }
+    Boolean EditsPending() const;
     /// Shows a page of the plate definition; the page chooser stays. Error 9 for the page of a
     /// sub-well that the definition does not have.
     void SetDataDisplay(Integer Index);
-    /// Takes the panel's texts as a page of the plate definition, which then reads itself anew.
+    /// Takes the panel's texts as a page of the plate definition, which then reads itself again.
     void GetDataDisplay(Integer Index);
 
     // The current well. Setters check no range and draw nothing; error 6 when the well number does
     // not fit 16 bits.
 
-    Integer CurrentWell() const { return PlateState::CurrentWell; }
+    Integer CurrentWell() const;
     void CurrentWell(Integer value);
-    Integer Row() const { return PlateState::Row; }
+    Integer Row() const;
     void Row(Integer value);
-    Integer Col() const { return PlateState::Col; }
+    Integer Col() const;
     void Col(Integer value);
     /// The sub-well's position from 1; assigning 0 chooses the last sub-well.
-    Integer WellIndex() const { return PlateState::WellIndex; }
+    Integer WellIndex() const;
     void WellIndex(Integer value);
     /// "Default" when no sub-well is chosen. An unknown name leads beyond the last well.
     String SubWell() const;
@@ -123,34 +122,33 @@ class Plate : public PlateState {
     Boolean WellSelected() const;
     void WellSelected(Boolean value);
     /// The wells selected by SetWell, area selections and arrays, as counted by them.
-    Integer NSelected() const { return PlateState::NSelected; }
+    Integer NSelected() const;
     /// Whether pointer input is honoured; also enables the details button.
-    Boolean MouseEnabled() const { return surface_.cmdData.enabled; }
+    Boolean MouseEnabled() const;
     void MouseEnabled(Boolean value);
     /// Whether an area selection is framed; False hides the frame at once.
     void SelectBoxEnabled(Boolean value);
     /// Deselects every well; the current one stays.
     void ClearSelection();
     /// Marks the whole control as the selected one.
-    Boolean Selected() const { return PlateState::Selected; }
+    Boolean Selected() const;
     void Selected(Boolean value);
     /// The well under a point of the plate area, or -1.
     Integer MouseToWell(Single X, Single Y) const;
 
     // Blocks of wells.
 
-    Integer ArrayX() const { return PlateState::ArrayX; }
-    Integer ArrayY() const { return PlateState::ArrayY; }
-    Integer ArrayWidth() const { return PlateState::ArrayWidth; }
-    Integer ArrayHeight() const { return PlateState::ArrayHeight; }
-    String ArraySubwell() const { return PlateState::ArraySubwell; }
+    Integer ArrayX() const;
+    Integer ArrayY() const;
+    Integer ArrayWidth() const;
+    Integer ArrayHeight() const;
+    String ArraySubwell() const;
     /// Records a block, chooses the sub-well and adds the block to the selection. Error 2999 when
     /// the block leaves the plate.
     void SetArray(Integer X, Integer Y, Integer Width, Integer Height, const String& SW,
                   Long Direction = foTopLeftHorizontal, Long Color = kNoColor);
     /// Walks the recorded block; a colour of -1 and the default text leave wells as they are. The
-    /// first
-    /// "#" of the text becomes the number along the walk.
+    /// first "#" of the text becomes the number along the walk.
     void FillArray(Long Color, const String& AnnotationText = kNoValue, Integer StartWell = 1,
                    Integer StopWell = -1);
 
@@ -233,12 +231,12 @@ class Plate : public PlateState {
 
     // For the host that shows the control.
 
-    void AddObserver(PlateObserver& observer) { site_.AddObserver(observer); }
-    void RemoveObserver(PlateObserver& observer) noexcept { site_.RemoveObserver(observer); }
+    void AddObserver(PlateObserver& observer);
+    void RemoveObserver(PlateObserver& observer) noexcept;
     /// The plate definition, empty after a failed load; error 91 before the first load.
-    const cmPlate& LoadedDefinition() const { return Definition(); }
+    const cmPlate& LoadedDefinition() const;
     /// What is shown, to paint or to mirror.
-    const Surface& Elements() const { return surface_; }
+    const Surface& Elements() const;
     /// The window has been repainted: puts a visible rubber band back.
     void Paint();
     /// The button that opens the details panel was pressed.
@@ -261,9 +259,9 @@ class Plate : public PlateState {
     /// Carries out a command, whether or not its menu entry is enabled.
     void MenuChosen(SubWellCommand command);
 
-    // Operator input, from the host. X and Y are drawing units in the plate area; buttons and shift
-    // keys as in PlateTypes.h. Input on the plate area while the mouse is disabled is ignored,
-    // moves apart.
+    // Operator input, from the host; InputRouter makes it out of a window's. X and Y are drawing
+    // units in the plate area; buttons and shift keys as in PlateTypes.h. While the mouse is
+    // disabled input on the plate area is ignored, except for moves.
 
     void ButtonDown(Integer button, Integer shift, Single x, Single y);
     void PointerMove(Integer buttons, Integer shift, Single x, Single y);
@@ -280,19 +278,19 @@ class Plate : public PlateState {
     void CharacterTyped(Integer code);
 
   private:
-    void ShowLoadedPlate();
-    void TextTyped(TextBox& box, const String& text);
-    Boolean IsShown(Integer WellNo) const { return WellNo < PlateState::TotalWells; }
+    struct Parts;
+
+    /// Runs a step of an operation; the host is told at the operation's end.
+    template <class Step>
+    void Operate(Step step);
+    void ShowLoadedPlate(Parts& parts);
+    void LayOut(Parts& parts, Boolean fullReset);
     /// The definition of the current sub-well, or null while none is chosen.
     std::shared_ptr<WellDetails> CurrentSubWell() const;
     Single ReadSubWell(Single (WellDetails::*field)() const) const;
     void WriteSubWell(void (WellDetails::*field)(Single), Single value);
-    static String DefaultLibrary();
-    ControlParts Parts() { return {*this, surface_, focus_, site_}; }
 
-    Notifier site_;
-    Surface surface_;
-    cmFocus focus_;
+    const std::unique_ptr<Parts> parts_;
 };
 
 } // namespace zorvane

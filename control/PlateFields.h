@@ -24,11 +24,11 @@ struct PlateFields {
     Single ZClear = 0;        ///< height that clears the plate, mm
     Boolean FixedSize = true; ///< the drawing is fitted to the control instead of the reverse
     Boolean Dirty = false;
-    Long DefaultSelectColor = 0x808080; ///< rim of a selected well
-    Boolean HorizontalCentred = false;  ///< with FixedSize
-    Boolean VerticalCentred = false;    ///< with FixedSize
-    Long DefinedWellColor = 0;          ///< bottom of a defined well without error
-    Long ErrorWellColor = 0;            ///< bottom of a defined well with an error code
+    Long DefaultSelectColor = kDefaultSelectColor; ///< rim of a selected well
+    Boolean HorizontalCentred = false;             ///< with FixedSize
+    Boolean VerticalCentred = false;               ///< with FixedSize
+    Long DefinedWellColor = 0;                     ///< bottom of a defined well without error
+    Long ErrorWellColor = 0;                       ///< bottom of a defined well with an error code
     Long SelectedColor = kButtonShadow; ///< plate area while the control is marked Selected
     Long DeselectedColor = kButtonFace; ///< plate area otherwise
 };

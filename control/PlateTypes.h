@@ -46,4 +46,12 @@ inline constexpr Long kButtonShadow = SystemColor(0x10);
 inline constexpr Long kGrayText = SystemColor(0x11);
 inline constexpr Long kButtonText = SystemColor(0x12);
 
+// How a new control draws until its host chooses otherwise.
+inline constexpr Long kDefaultWellColor = 0xE0E0E0;
+inline constexpr Long kDefaultSelectColor = 0x808080;
+inline constexpr Single kDefaultScale = 50; ///< drawing units per millimetre
+
+/// The colour that leaves wells as they are where a block of them is selected or filled.
+inline constexpr Long kNoColor = -1;
+
 } // namespace zorvane

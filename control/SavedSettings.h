@@ -1,6 +1,6 @@
 #pragma once
 
-#include "control/PlateTypes.h"
+#include "control/PlateFields.h"
 #include "platform/PropertyStore.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Types.h"
@@ -33,15 +33,16 @@ inline Setting<String> FileName(const String& defaultLibrary) {
     return {"FileName", defaultLibrary};
 }
 inline const Setting<String> kPlateName{"PlateName", "No_Plate"};
-inline constexpr Setting<Boolean> kFixedSize{"FixedSize", true};
-inline constexpr Setting<Single> kDrawingScale{"DrawingScale", 50};
-inline constexpr Setting<Long> kDefaultRimColor{"DefaultRimColor", 0xE0E0E0};
-inline constexpr Setting<Long> kDefaultSelectColor{"DefaultSelectColor", 0x808080};
-inline constexpr Setting<Long> kDefaultWellColor{"DefaultWellColor", 0xE0E0E0};
-inline constexpr Setting<Long> kDeselectedColor{"DeselectedColor", kButtonFace};
-inline constexpr Setting<Long> kSelectedColor{"SelectedColor", kButtonShadow};
-inline constexpr Setting<Boolean> kHorizontalCentred{"HorizontalCentred", false};
-inline constexpr Setting<Boolean> kVerticalCentred{"VerticalCentred", false};
-inline constexpr Setting<Boolean> kMultipleSelect{"MultipleSelect", false};
+inline const Setting<Boolean> kFixedSize{"FixedSize", PlateFields().FixedSize};
+inline constexpr Setting<Single> kDrawingScale{"DrawingScale", kDefaultScale};
+inline constexpr Setting<Long> kRimColor{"DefaultRimColor", kDefaultWellColor};
+inline constexpr Setting<Long> kSelectColor{"DefaultSelectColor", kDefaultSelectColor};
+inline constexpr Setting<Long> kWellColor{"DefaultWellColor", kDefaultWellColor};
+inline const Setting<Long> kDeselectedColor{"DeselectedColor", PlateFields().DeselectedColor};
+inline const Setting<Long> kSelectedColor{"SelectedColor", PlateFields().SelectedColor};
+inline const Setting<Boolean> kHorizontalCentred{"HorizontalCentred",
+                                                 PlateFields().HorizontalCentred};
+inline const Setting<Boolean> kVerticalCentred{"VerticalCentred", PlateFields().VerticalCentred};
+inline const Setting<Boolean> kMultipleSelect{"MultipleSelect", PlateFields().MultipleSelect};
 
 } // namespace zorvane::saved

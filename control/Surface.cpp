@@ -22,7 +22,7 @@ Surface::Surface() {
     cmdData.bold = true;
     cmdData.caption = "?";
     ResizeWells(1);
-    CreateLegends(1);
+    lblWell.push_back({.box = {60, 210, 165, 195}, .caption = {}});
 }
 
 void Surface::ResizeWells(std::size_t count) {
@@ -35,9 +35,8 @@ void Surface::ResizeWells(std::size_t count) {
 
 void Surface::CreateLegends(std::size_t count) {
     if (count <= lblWell.size()) return;
-    Label design;
-    design.box = {60, 210, 165, 195};
-    lblWell.resize(count, design);
+    const Label first = lblWell.front();
+    lblWell.resize(count, first);
 }
 
 Rect Surface::WellBox(std::size_t wellNo) const {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "control/Elements.h"
-#include "control/PanelElements.h"
+#include "control/panel/PanelElements.h"
 #include "platform/HostSite.h"
 #include "runtime/Geometry.h"
 #include "runtime/Types.h"
@@ -53,10 +53,10 @@ struct Surface {
     String plateToolTip;
     PointerShape platePointer = PointerShape::Standard;
 
-    /// Creates or destroys elements so that there is one for each of so many wells; element 0
+    /// Creates or destroys elements so that there is one for each of this many wells; element 0
     /// stays.
     void ResizeWells(std::size_t count);
-    /// Makes sure that the legends 0 to `count` - 1 exist.
+    /// Makes sure that the legends 0 to `count` - 1 exist, new ones as copies of the first.
     void CreateLegends(std::size_t count);
 
     /// The box that holds a well's rim, bottom and text, in the plate area.

@@ -8,20 +8,21 @@
 
 namespace zorvane {
 
-/// A way to draw sub-wells: its name in definitions, and which of the two outlines are round
-/// instead of rectangular.
+/// A way to draw sub-wells: its names in definitions and for people, and which of the two outlines
+/// are round instead of rectangular.
 struct WellStyle {
     std::string_view name;
+    const char* caption;
     bool roundBottom;
     bool roundRim;
 };
 
 /// The styles in the order of their codes, from 0.
 inline constexpr std::array<WellStyle, 4> kWellStyles{{
-    {"ROUND", true, true},
-    {"CCSHELF", true, false},
-    {"PILLAR", false, true},
-    {"SQUARE", false, false},
+    {"ROUND", "Round", true, true},
+    {"CCSHELF", "Shelf", true, false},
+    {"PILLAR", "Pillar", false, true},
+    {"SQUARE", "Square", false, false},
 }};
 
 /// The style of a code; null for a code that has none.

@@ -1,4 +1,4 @@
-#include "control/SubWellDrawing.h"
+#include "control/layout/SubWellDrawing.h"
 
 #include "Raised.h"
 
