@@ -124,13 +124,13 @@ void PlateWidget::setRefitOnResize(bool on) { d_->sizing.RefitOnResize(on); }
 QColor PlateWidget::defaultRimColor() const { return ShownColor(plate().DefaultRimColor()); }
 
 void PlateWidget::setDefaultRimColor(const QColor& color) {
-    plate().DefaultRimColor(ToLong(color, PlateState().DefaultRimColor));
+    plate().DefaultRimColor(ToLong(color, kDefaultWellColor));
 }
 
 QColor PlateWidget::defaultWellColor() const { return ShownColor(plate().DefaultWellColor()); }
 
 void PlateWidget::setDefaultWellColor(const QColor& color) {
-    plate().DefaultWellColor(ToLong(color, PlateState().DefaultWellColor));
+    plate().DefaultWellColor(ToLong(color, kDefaultWellColor));
 }
 
 QColor PlateWidget::defaultSelectColor() const { return ShownColor(plate().DefaultSelectColor); }
