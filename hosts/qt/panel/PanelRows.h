@@ -1,6 +1,6 @@
 #pragma once
 
-#include "control/PanelElements.h"
+#include "control/panel/PanelElements.h"
 #include "drawing/Palette.h"
 #include "hosts/qt/panel/RowEdit.h"
 
