@@ -37,19 +37,6 @@ TEST_F(AllocationTest, ALayoutOfTheSamePlateAllocatesNothing) {
     }
 }
 
-TEST_F(AllocationTest, AWellNumberTakesAtMost256Bytes) {
-    for (const int rows : {217, 72}) {
-        plate.PlateClassText(GridText(1, 1, ""));
-        const String text = rows == 217 ? GridText(217, 151, SubWellText("Drop1", 10, 10, 1),
-                                                   "ROWLABEL 1\r\nXPITCH 2\r\nYPITCH 2\r\n")
-                                        : ThreeDrops(72, 151);
-        const AllocationCounter counter;
-        plate.PlateClassText(text);
-        ASSERT_GT(plate.TotalWells(), 32000);
-        EXPECT_LE(static_cast<double>(counter.Bytes()) / plate.TotalWells(), 256);
-    }
-}
-
 TEST_F(AllocationTest, ShowingAWellAllocatesNothing) {
     plate.PlateClassText(ThreeDrops(16, 24));
     plate.MultipleSelect = true;

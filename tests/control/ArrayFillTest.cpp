@@ -110,27 +110,5 @@ TEST_F(ArrayFillTest, FillsFromStartToStop) {
     fills("#", 5, 99, "- - - - ");
 }
 
-TEST_F(ArrayFillTest, ColoursTheWellsOfTheSubWellChosenLast) {
-    plate.SetArray(1, 1, 2, 1, "Reservoir");
-    plate.SubWell("Drop1");
-    plate.FillArray(0x0000FF, "#", 2);
-    EXPECT_EQ(Shown().WellBottom[13].fill, plate.DefaultWellColor());
-    EXPECT_EQ(Shown().WellBottom[14].fill, 0x0000FF);
-    EXPECT_EQ(plate.WellAnnotation(14), "2");
-    EXPECT_EQ(plate.CurrentWell(), 14);
-
-    plate.CurrentWell(0);
-    plate.FillArray(kNoColor); // only moves the current well
-    EXPECT_EQ(plate.CurrentWell(), 14);
-    EXPECT_EQ(plate.WellAnnotation(13), "");
-}
-
-TEST_F(ArrayFillTest, SixteenBitOverflow) {
-    plate.PlateClassText(
-        GridText(300, 100, SubWellText("A", 10, 10, 1), "ROWLABEL 1\r\nXPITCH 2\r\nYPITCH 1\r\n"));
-    EXPECT_EQ(NumberRaisedBy([&] { plate.SetArray(0, 0, 32767, 32767, ""); }), 2999);
-    EXPECT_EQ(NumberRaisedBy([&] { plate.FillArray(1); }), 6);
-}
-
 } // namespace
 } // namespace zorvane

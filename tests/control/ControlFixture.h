@@ -42,8 +42,10 @@ class EventLog : public PlateObserver {
         return all;
     }
 
-  private:
+  protected:
     std::vector<String> lines;
+
+  private:
     static String Pointer(Integer button, Integer shift, Single x, Single y) {
         return std::to_string(button) + " " + std::to_string(shift) + " " + SingleText(x) + " " +
                SingleText(y);

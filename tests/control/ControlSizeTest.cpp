@@ -20,22 +20,6 @@ TEST_F(ControlSizeTest, FixedSizeFitsTheScaleAndTheFrameFollowsOneLayoutLater) {
     EXPECT_EQ(Shown().fraPlate.box, (Rect{0, 0, 120, 80}));
 }
 
-TEST_F(ControlSizeTest, CentringNeedsAFixedSize) {
-    const auto centres = [&](Boolean across, Boolean down, Single plateLeft, Single plateTop,
-                             Single dataLeft, Single dataTop) {
-        plate.HorizontalCentred = across;
-        plate.VerticalCentred = down;
-        plate.DrawingScale(50);
-        EXPECT_EQ(Shown().fraPlate.box, (Rect{plateLeft, plateTop, 6000, 4000}));
-        EXPECT_EQ(Shown().fraData.box, (Rect{dataLeft, dataTop, 2775, 4702.5F}));
-    };
-    plate.PlateClassText(OneDrop());
-    centres(true, false, 300, 0, 1912.5F, 0);
-    centres(false, true, 0, 280, 0, -71.25F);
-    plate.FixedSize = false;
-    centres(true, true, 0, 0, 0, 0);
-}
-
 TEST_F(ControlSizeTest, OpeningAndClosingTheDetailsPanelSizesTheControl) {
     const auto sizes = [&](Boolean fixedSize, const char* lines, Single width, Single openHeight,
                            Single closedWidth, Single closedHeight) {

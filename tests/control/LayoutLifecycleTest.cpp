@@ -106,13 +106,5 @@ TEST_F(LayoutLifecycleTest, OnlyAFullResetClearsWhatTheHostShowed) {
     EXPECT_EQ(Shown().WellTag[95], "2.5");
 }
 
-TEST_F(LayoutLifecycleTest, EveryLayoutAsksForOneRepaintOfTheWholeControlAtLeast) {
-    Load(OneDrop());
-    plate.DrawingScale(50);
-    ASSERT_FALSE(site.repaints.empty());
-    for (const Rect& area : site.repaints)
-        EXPECT_EQ(area, (Rect{0, 0, 6000, 4120}));
-}
-
 } // namespace
 } // namespace zorvane

@@ -26,28 +26,6 @@ TEST_F(LayoutTest, PlacesEveryWellOfEverySubWell) {
     EXPECT_EQ(plate.ZClear, 15);
 }
 
-TEST_F(LayoutTest, ABottomWithoutBorderIsAPixelLarger) {
-    process.screen.twipsPerPixelX = 12;
-    process.screen.twipsPerPixelY = 10;
-    Load(GridText(1, 1, SubWellText("Dot", 10, 10, 0.2F)));
-    EXPECT_EQ(Bottom(0), (Rect{500 - 12, 500 - 12, 24 + 12, 24 + 10}));
-    EXPECT_FALSE(Shown().WellBottom[0].border);
-}
-
-TEST_F(LayoutTest, AStyleWithoutShapesTakesThoseOfTheSubWellAfterIt) {
-    Load(DropOnReservoir(1, 1));
-    const auto firstShapes = [&](Integer firstStyle, Integer secondStyle) {
-        plate.WellIndex(1);
-        plate.Style(firstStyle);
-        plate.WellIndex(2);
-        plate.Style(secondStyle);
-        plate.DrawingScale(50);
-        return std::pair(Shown().WellRim[0].kind, Shown().WellBottom[0].kind);
-    };
-    EXPECT_EQ(firstShapes(7, 1), std::pair(ShapeKind::Rectangle, ShapeKind::Circle));
-    EXPECT_EQ(firstShapes(7, 7), std::pair(ShapeKind::Rectangle, ShapeKind::Rectangle));
-}
-
 class LegendTest : public ControlTest {
   protected:
     /// The captions of the visible legends in label order, rows and columns apart.
@@ -79,52 +57,6 @@ TEST_F(LegendTest, LargePlatesShowEverySecondLegend) {
     // The last row's legend is counted after the columns.
     shows(25, 3, "B D F H J L N P R T V X Y ", "1 3 ");
     shows(3, 1, "A B C ", "1 ");
-}
-
-TEST_F(LegendTest, StandLeftOfTheRowsAndBelowTheColumns) {
-    Load(OneDrop(2, 3));
-    const auto& labels = Shown().lblWell;
-    // The envelope of the last row's first well goes from 6 to 14 mm across and down to 23 mm.
-    EXPECT_EQ(labels[1].box, (Rect{300 - 165 - 45, 500 - 97.5F, 165, 195}));
-    EXPECT_EQ(labels[5].box, (Rect{90, 950 - 97.5F, 165, 195}));
-    EXPECT_EQ(labels[2].box, (Rect{500 - 82.5F, 1150 + 30, 165, 195}));
-    EXPECT_EQ(labels[4].box, (Rect{500 - 82.5F + 900, 1180, 165, 195}));
-
-    Load(GridText(2, 3, SubWellText("Left", 5, 10, 6)));
-    EXPECT_EQ(labels[1].box.left, 15);
-}
-
-TEST_F(LayoutTest, LaterSubWellsAndColumnLegendsLieBehind) {
-    Load(DropOnReservoir(2, 2));
-    String order;
-    for (const PaintRun& run : Shown().paintOrder) {
-        order += (run.kind == PaintRun::Kind::Wells ? "wells " : "legends ") +
-                 std::to_string(run.first) + "+" + std::to_string(run.count) + ", ";
-    }
-    EXPECT_EQ(order, "legends 2+2, wells 4+2, wells 6+2, wells 0+2, legends 1+1, wells 2+2, "
-                     "legends 4+1, ");
-}
-
-TEST_F(LayoutTest, NoTouchedWellIsLeftOutOfARepaint) {
-    Load(DropOnReservoir(4, 5));
-    Integer touched = 0;
-    for (Single x = -400; x < 3000; x += 70) {
-        for (Single y = -100; y < 2500; y += 130) {
-            const Rect area{x, y, 100, 60};
-            for (const PaintRun& run : Shown().paintOrder) {
-                if (run.kind != PaintRun::Kind::Wells) continue;
-                const auto [from, to] = Shown().Touched(run, area);
-                ASSERT_TRUE(from >= 0 && from <= to && to <= run.count);
-                for (Integer i = 0; i < run.count; ++i) {
-                    const auto well = static_cast<std::size_t>(run.first + i);
-                    if (!Shown().WellBox(well).Intersects(area)) continue;
-                    ++touched;
-                    EXPECT_TRUE(from <= i && i < to) << well << " at " << x << ", " << y;
-                }
-            }
-        }
-    }
-    EXPECT_GT(touched, 500);
 }
 
 } // namespace

@@ -101,23 +101,6 @@ TEST_F(PersistenceTest, RestoresEverySettingBeforeThePlateIsLoaded) {
     EXPECT_TRUE(plate.MultipleSelect);
 }
 
-TEST_F(PersistenceTest, RefusesValuesOfAnotherType) {
-    const std::pair<String, PropertyValue> cases[] = {
-        {"FixedSize", String("True")},   {"DrawingScale", Long{50}},
-        {"FileName", Long{1}},           {"DefaultRimColor", Single{1}},
-        {"DefaultSelectColor", true},    {"DefaultWellColor", String("1")},
-        {"DeselectedColor", Single{1}},  {"SelectedColor", false},
-        {"HorizontalCentred", Long{-1}}, {"VerticalCentred", Single{0}},
-        {"PlateName", Long{7}},
-    };
-    for (const auto& each : cases) {
-        MemoryPropertyStore store;
-        store.values = {each};
-        Plate plate(site);
-        EXPECT_EQ(NumberRaisedBy([&] { plate.RestoreProperties(store); }), 13) << each.first;
-    }
-}
-
 TEST_F(PersistenceTest, AFailedLoadKeepsTheDrawingButNotTheDefinition) {
     RegisterDirectory();
     Plate plate(site);
@@ -135,24 +118,6 @@ TEST_F(PersistenceTest, AFailedLoadKeepsTheDrawingButNotTheDefinition) {
     EXPECT_EQ(plate.Text(13), "kept");
     EXPECT_TRUE(plate.IsSelected(13) && plate.Elements().WellRim[95].visible);
     EXPECT_EQ(NumberRaisedBy([&] { plate.WellX(0, 0, "Drop1"); }), 5);
-}
-
-TEST_F(PersistenceTest, ALoadStartsAtTheFirstWellWithNoSubWellChosen) {
-    Plate plate(site);
-    ASSERT_TRUE(plate.SetPlate("Demo", library));
-    plate.SetWell(7, 11);
-    plate.Dirty = true;
-    plate.PlateName("NO_PLATE");
-    EXPECT_EQ(plate.PlateName(), "no_plate");
-    EXPECT_FALSE(plate.Dirty);
-    EXPECT_EQ(plate.Location(), "Default, 0, 0");
-    EXPECT_EQ(plate.CurrentWell(), 0);
-    EXPECT_EQ(plate.SubWellCount, 1);
-    EXPECT_EQ(plate.Elements().cmdData.caption, "?");
-
-    plate.PlateClassText(DropOnReservoir());
-    EXPECT_EQ(plate.SubWellCount, 2);
-    EXPECT_EQ(plate.Elements().cmdData.caption, "");
 }
 
 } // namespace

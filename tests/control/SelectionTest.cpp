@@ -105,15 +105,6 @@ TEST_F(SelectionTest, TheWellUnderAPoint) {
           {1000, 950, 109}});
 }
 
-TEST_F(SelectionTest, AfterAFailedLoadNoWellIsHit) {
-    Load(OneDrop());
-    process.messages.onUnexpected = nullptr;
-    EXPECT_FALSE(plate.SetPlate("Demo", "no such library"));
-    EXPECT_EQ(process.messages.shown.size(), 1U);
-    EXPECT_EQ(plate.MouseToWell(500, 500), -1);
-    EXPECT_EQ(plate.TotalWells(), 96);
-}
-
 TEST_F(SelectionTest, MarkingTheControlColoursItsAreaAndLegends) {
     Load(OneDrop());
     plate.SelectedColor = 0x123456;

@@ -1,7 +1,5 @@
 #include "control/PanelFixture.h"
 
-#include <random>
-
 namespace zorvane {
 namespace {
 
@@ -85,20 +83,6 @@ TEST_F(SubWellCommandsTest, CommandsTakeTheSubWellAfterTheOneShown) {
     }
 }
 
-TEST_F(SubWellCommandsTest, ANewSubWellIsACopyOfTheOneBeforeIt) {
-    plate.DataVisible(false);
-    EXPECT_EQ(Run(mnuAddNewSubWell, 3, "N"), 0);
-    EXPECT_FALSE(plate.DataVisible()) << "only inserting leaves a closed panel closed";
-    EXPECT_EQ(Definition().CompoundWell()->Item("N")->xOffset(), 12);
-    EXPECT_EQ(plate.GetProperty("N.XOFFSET"), "12");
-    EXPECT_EQ(plate.GetProperty("N.Well"), "N");
-    EXPECT_EQ(plate.TotalWells(), 18) << "not laid out before Apply";
-    plate.ApplyPressed();
-    EXPECT_EQ(plate.TotalWells(), 24);
-    EXPECT_NE(plate.MouseToWell(500, 500), -1);
-    EXPECT_EQ(Pages(), "[Comments], Tags, General Properties, A Well, B Well, C Well, N Well");
-}
-
 TEST_F(SubWellCommandsTest, ApplyWaitsOnEveryPageUntilTheNextLayout) {
     EXPECT_EQ(Run(mnuRemoveSubWell, 3), 0);
     for (Integer page = 0; page < 5; ++page) {
@@ -108,29 +92,6 @@ TEST_F(SubWellCommandsTest, ApplyWaitsOnEveryPageUntilTheNextLayout) {
     plate.DrawingScale(plate.DrawingScale());
     EXPECT_FALSE(Panel().cmdApply.enabled);
     EXPECT_NE(plate.MouseToWell(500, 500), -1);
-}
-
-TEST_F(SubWellCommandsTest, EveryCommandAsksInItsOwnWords) {
-    const auto asks = [&](SubWellCommand command, const String& prompt, const String& title,
-                          const String& preset) {
-        Reload();
-        Run(command, 3);
-        ASSERT_EQ(site.questions.size(), 1U) << title;
-        EXPECT_EQ(site.questions[0].prompt, prompt);
-        EXPECT_EQ(site.questions[0].title, title);
-        EXPECT_EQ(site.questions[0].preset, preset);
-    };
-    asks(mnuAddNewSubWell, "Enter  a unique name for the subwell", "SubWell Name", "");
-    asks(mnuRenameSubwell, "New SubWell Name", "Rename SubWell", "B");
-    asks(mnuShiftHorizontal,
-         "Enter distance in mm to shift all subwell centers\r\n+ve value shifts right", "X Shift",
-         "0.00");
-    asks(mnuShiftVertical,
-         "Enter distance in mm to shift all subwell centers\r\n+ve value shifts down", "Y Shift",
-         "0.00");
-    asks(mnuShiftHeight,
-         "Enter distance in mm to shift bottoms of all subwells\r\n+ve value shifts up", "Z Shift",
-         "0.00");
 }
 
 TEST_F(SubWellCommandsTest, ShiftsMoveEverySubWellByTheNumberTyped) {
@@ -198,95 +159,6 @@ TEST_F(SubWellCommandsTest, TheMenuOffersWhatThePageAllows) {
     EXPECT_EQ(plate.Rows, 3);
     plate.MenuPressed(); // dismissed
     EXPECT_EQ(plate.Rows, 3);
-}
-
-/// An operator who does anything that the panel allows, and undoes what fails.
-class RandomEditsTest : public SubWellCommandsTest {
-  protected:
-    Integer Below(std::size_t count) {
-        return static_cast<Integer>(
-            std::uniform_int_distribution<std::size_t>(0, count - 1)(random));
-    }
-    String Pick(const std::vector<String>& texts) {
-        return texts[static_cast<std::size_t>(Below(texts.size()))];
-    }
-
-    void RunAnyCommand() {
-        const auto command = static_cast<SubWellCommand>(Below(9));
-        const bool named = command <= mnuRenameSubwell;
-        site.answers = {named ? Pick({"A", "B", "c", "D", "Drop1", "x2", ""})
-                              : Pick({"0.5", "-0.5", "0.25", "1mm", "", "x"})};
-        plate.MenuChosen(command);
-    }
-
-    void TypeAnywhere() {
-        if (Panel().comboSelect.position == kCommentPage)
-            return plate.CommentTyped(Pick({"", "one\r\n", "one\r\ntwo\r\n", "lost"}));
-        const Integer row = Below(Panel().txtData.size());
-        const String& key = Panel().lblAnnotation[static_cast<std::size_t>(row)].Tag;
-        const bool name = key.ends_with("LABEL");
-        plate.RowTyped(row, name ? Pick({"A", "1", "8"}) : Pick({"1", "2", "3", "2.5", "9 mm"}));
-    }
-
-    void EditSomething() {
-        plate.PageChosen(Below(Panel().comboSelect.entries.size()));
-        switch (Below(3)) {
-        case 0:
-            return RunAnyCommand();
-        case 1:
-            return plate.StyleChosen(Below(4));
-        default:
-            return TypeAnywhere();
-        }
-    }
-
-    /// What a definition shows: where every well lies, and the rows of every page.
-    static String Picture(Plate& shown) {
-        std::ostringstream picture;
-        const Surface& surface = shown.Elements();
-        for (std::size_t well = 0; well < surface.WellRim.size(); ++well) {
-            PrintTo(surface.WellRim[well].box, &picture);
-            PrintTo(surface.WellBottom[well].box, &picture);
-            picture << static_cast<int>(surface.WellRim[well].kind);
-        }
-        picture << "\n" << surface.panel.txtComment.text;
-        for (std::size_t page = 1; page < surface.panel.comboSelect.entries.size(); ++page) {
-            shown.SetDataDisplay(static_cast<Integer>(page));
-            picture << "\n" << surface.panel.comboSelect.entries[page] << ":";
-            for (std::size_t row = 0; row < surface.panel.txtData.size(); ++row)
-                if (surface.panel.lblAnnotation[row].visible)
-                    picture << " " << surface.panel.lblAnnotation[row].caption << "="
-                            << surface.panel.txtData[row].text;
-        }
-        return picture.str();
-    }
-
-    std::mt19937 random{20261125};
-};
-
-TEST_F(RandomEditsTest, DefinitionPanelDrawingAndTextAgree) {
-    MemorySite otherSite;
-    Plate other(otherSite);
-    other.FixedSize = false;
-    other.EditEnable(true);
-    int applied = 0;
-    for (int edit = 0; edit < 10'000; ++edit) {
-        const String before = plate.PlateClassText();
-        const Long error = NumberRaisedBy([&] {
-            EditSomething();
-            plate.ApplyPressed();
-        });
-        if (error != 0) {
-            plate.PlateClassText(before);
-            continue;
-        }
-        ++applied;
-        const String text = plate.PlateClassText();
-        other.PlateClassText(text);
-        ASSERT_EQ(other.PlateClassText(), text) << "after edit " << edit << " of\n" << before;
-        ASSERT_EQ(Picture(plate), Picture(other)) << "after edit " << edit << " of\n" << before;
-    }
-    EXPECT_GT(applied, 5000);
 }
 
 } // namespace

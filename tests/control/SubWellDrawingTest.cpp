@@ -73,19 +73,6 @@ TEST(SubWellDrawing, TextBoxGrowsWithTheWell) {
     text(150, 7402, 780);   // 15 lines
 }
 
-TEST(SubWellDrawing, OriginTakesOffsetAndRimCentreTogether) {
-    WellDetails well;
-    well.xOffset(10.01F); // 500.5 on its own
-    well.RimCenterX(-0.02F);
-    well.yOffset(-3);
-    well.RimCenterY(1);
-    const SubWellDrawing drawing = DrawSubWell(well, {50, 15, 15, 195, 9, 4.51F}, {});
-    EXPECT_EQ(drawing.originX, 500);
-    EXPECT_EQ(drawing.originY, -100);
-    EXPECT_EQ(drawing.columnPitch, 450);
-    EXPECT_EQ(drawing.rowPitch, 226);
-}
-
 TEST(SubWellDrawing, FailsWhenASizeDoesNotFit) {
     const auto fails = [](const Sizes& sizes, const Scaling& scaling, const char* what) {
         EXPECT_EQ(NumberRaisedBy([&] { Draw(sizes, scaling); }), 6) << what;
@@ -96,20 +83,6 @@ TEST(SubWellDrawing, FailsWhenASizeDoesNotFit) {
     fails({1, 1, 1, 1}, {50, 656, 9}, "column pitch");
     fails({1, 1, 1, 1}, {50, 9, 656}, "row pitch");
     fails({1, 12, 1, 1}, {50, 655.34F, 9}, "height cut to a very large column pitch");
-}
-
-TEST(SubWellDrawing, StylesWithoutShapesKeepThoseBefore) {
-    using enum ShapeKind;
-    const auto shapes = [](Long style, ShapeKind rim, ShapeKind bottom) {
-        const SubWellShapes drawn = ShapesOfStyle(style, {Rectangle, Circle});
-        EXPECT_TRUE(drawn.rim == rim && drawn.bottom == bottom) << style;
-    };
-    shapes(0, Circle, Circle);
-    shapes(1, Rectangle, Circle);
-    shapes(2, Circle, Rectangle);
-    shapes(3, Rectangle, Rectangle);
-    shapes(4, Rectangle, Circle);
-    shapes(-1, Rectangle, Circle);
 }
 
 } // namespace

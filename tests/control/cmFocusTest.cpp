@@ -64,42 +64,6 @@ TEST_F(cmFocusTest, TracksOneVisibleRectangle) {
     EXPECT_EQ(site.drawn.Take(), Lines{"Rectangle 103 0 1 40 60"});
 }
 
-TEST_F(cmFocusTest, OnlyRemembersCornersWhileNothingIsVisible) {
-    Begin();
-    focus->DragStart(150, 150);
-    focus->DragPosition(151, 1.4F);
-    focus->Refresh();
-    EXPECT_TRUE(site.drawn.Take().empty());
-    focus->RectangleVisible(true);
-    EXPECT_EQ(site.drawn.Take(), Lines{"Rectangle 103 10 10 10 0"});
-
-    focus->Enabled(false);
-    site.drawn.Take();
-    focus->DragPosition(300, 300);
-    focus->Refresh();
-    focus->RectangleVisible(false);
-    EXPECT_TRUE(site.drawn.Take().empty());
-}
-
-TEST_F(cmFocusTest, HalfPixelsGoToTheEvenOne) {
-    process.screen.twipsPerPixelX = 12;
-    process.screen.twipsPerPixelY = 10;
-    Begin();
-    focus->DrawRectangle(22.5F * 12, 22.5F * 10, 23.5F * 12, 23.5F * 10);
-    focus->DrawEllipse(-6, -5, 18, 15);
-    EXPECT_EQ(site.drawn.Take(), (Lines{"Rectangle 103 22 22 24 24", "Ellipse 103 0 0 2 2"}));
-}
-
-TEST_F(cmFocusTest, DrawsFiguresWhetherOrNotItIsEnabled) {
-    EXPECT_EQ(NumberRaisedBy([&] { focus->DrawEllipse(0, 0, 15, 15); }), 11); // no scale yet
-    Begin();
-    focus->Enabled(false);
-    site.drawn.Take();
-    focus->DrawRectangle(0, 0, 15, 15);
-    EXPECT_EQ(site.drawn.Take(), Lines{"Rectangle 0 0 0 1 1"});
-    EXPECT_EQ(NumberRaisedBy([&] { focus->DrawRectangle(1e20F, 0, 1, 1); }), 6);
-}
-
 TEST(cmFocusOnAnOverlay, DrawingTwiceLeavesNoTrace) {
     TestProcess process;
     MemorySite site;

@@ -139,65 +139,6 @@ TEST(PlatePainterTest, VisitsOnlyTheWellsThatTheClipTouches) {
     EXPECT_EQ(rims({0, 0, 900, 900}).size(), 0U);
 }
 
-TEST(PlatePainterTest, RepaintsLegendsThatReachIntoTheClip) {
-    Surface surface = SurfaceWithWells(1, 1);
-    AddLegend(surface, "Rows");
-    const Rect box = surface.lblWell[1].box.Moved(1000, 2000);
-    const auto shown = [&surface](const Rect& clip) {
-        const String last = Painted(surface, clip).back();
-        return last.starts_with("\"Rows\"");
-    };
-    EXPECT_TRUE(shown({box.Right() + 100, box.top, 10, 10}));
-    EXPECT_FALSE(shown({box.Right() + 200, box.top, 10, 10}));
-    EXPECT_FALSE(shown({box.left, box.Bottom() + 20, 10, 10}));
-}
-
-TEST(PlatePainterTest, AllocatesNothingForWells) {
-    class CountingCanvas final : public Canvas {
-      public:
-        Rect Clip() const override { return {0, 0, 20000, 20000}; }
-        void DrawShape(const ShapeStyle&, const Rect&) override { ++shapes; }
-        void FillRectangle(Rgb, const Rect&) override {}
-        void DrawRectangle(Rgb, const Rect&) override {}
-        void DrawText(const TextStyle&, const Rect&, std::string_view) override {}
-        Single TextWidth(std::string_view, Boolean) const override { return 0; }
-        void DrawInvertedOutline(const Rect&) override {}
-        void BeginClip(const Rect&) override {}
-        void EndClip() override {}
-
-        int shapes = 0;
-    };
-    const Surface surface = SurfaceWithWells(32, 48);
-    const SystemPalette palette;
-    CountingCanvas canvas;
-    const AllocationCounter allocations;
-    PaintControl(surface, palette, canvas);
-    EXPECT_EQ(allocations.Count(), 0U);
-    EXPECT_EQ(canvas.shapes, 2 * 32 * 48);
-}
-
-TEST(PlatePainterTest, ShowsTheColoursOfTheMoment) {
-    Surface surface = SurfaceWithWells(1, 1);
-    surface.fraPlate.caption = "Plate";
-    surface.fraPlate.back = kButtonShadow;
-    surface.fraPlate.text = kGrayText;
-    surface.WellBottom[0].fill = 0x000000;
-    surface.WellText[0].caption = "7";
-    surface.cmdData.visible = true;
-    surface.cmdData.bold = false;
-    surface.cmdData.enabled = false;
-    const Lines lines = Painted(surface);
-    const auto has = [&lines](std::string_view start) {
-        return std::ranges::any_of(lines,
-                                   [start](const String& line) { return line.starts_with(start); });
-    };
-    EXPECT_TRUE(has("fill A0A0A0 at 1000 2000"));
-    EXPECT_TRUE(has("fill A0A0A0 at 1075 2000")) << "the gap in the border";
-    EXPECT_TRUE(has("\"Plate\" left 6D6D6D"));
-    EXPECT_TRUE(has("\"7\" FFFFFF")) << "readable on black";
-    EXPECT_TRUE(has("\"?\" 6D6D6D"));
-}
-
 TEST(PlatePainterTest, KeepsCaptionsInTheirFrames) {
     Surface surface;
     surface.cmdData.visible = false;

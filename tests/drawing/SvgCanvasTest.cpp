@@ -132,29 +132,6 @@ TEST(SvgCanvasTest, DrawsEveryShapeInsideOfItsBox) {
           R"(<rect x="30" y="30" width="30" height="15"/>)");
 }
 
-TEST(SvgCanvasTest, GroupsStateWhatTheirElementsShare) {
-    const auto elements = Elements([](Canvas& canvas) {
-        canvas.BeginGroup("outer");
-        canvas.BeginGroup("empty");
-        canvas.EndGroup();
-        canvas.BeginGroup({});
-        canvas.FillRectangle(kWhite, {0, 0, 15, 15});
-        canvas.FillRectangle(kWhite, {15, 0, 15, 15});
-        canvas.FillRectangle(kBlack, {30, 0, 15, 15});
-        canvas.FillRectangle(kBlack, {30, 0, 0, 15}); // nothing to see
-    });                                               // the groups are ended with the picture
-    const std::vector<String> expected{
-        R"(<g id="outer">)",
-        R"(<g fill="#ffffff">)",
-        R"(<rect x="0" y="0" width="15" height="15"/>)",
-        R"(<rect x="15" y="0" width="15" height="15"/>)",
-        R"(<rect fill="#000000" x="30" y="0" width="15" height="15"/>)",
-        "</g>",
-        "</g>",
-    };
-    EXPECT_EQ(elements, expected);
-}
-
 TEST(SvgCanvasTest, StatesItsSize) {
     const auto states = [](const Rect& area, Single width, Single height, const String& expected) {
         const String svg =
