@@ -69,9 +69,10 @@ TEST(LibraryText, RefusesWhatCouldNotBeReadBack) {
          "the definition of \"A\" could not be read back"},
         {"PLATE A\n", "no plate line\r\n", "the library has no plate \"\""},
     };
-    for (const auto& each : cases)
+    for (const auto& each : cases) {
         EXPECT_EQ(Replaced(each.before, each.definition), String("failed: ") + each.reason)
             << each.before;
+    }
 }
 
 TEST(LibraryText, AddsAPlateBehindTheLastOne) {
