@@ -88,6 +88,7 @@ TEST(PlateWidgetPainting, AidsAndOutlinesLieOverThePlate) {
     plate.WellFill(25, 0xFFFFFF);
     form.widget.setAids(PlateWidget::Aid::ErrorMarks | PlateWidget::Aid::HighlightLegends);
     form.widget.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form.widget)) << "the focus ring needs it";
     form.widget.setFocus(Qt::TabFocusReason);
     QTest::mouseMove(&form.widget, form.At(15));
     QString pictures = AsCharacters(form.Picture(), 4);
