@@ -117,7 +117,7 @@ void FillDialog::AddRangeFields(QFormLayout& form) {
     connect(stop_, &QSpinBox::valueChanged, this, &FillDialog::ShowWalk);
 }
 
-void FillDialog::SetBlock(const WellBlock& block) {
+void FillDialog::SetBlock(const FillBlock& block) {
     x_->setValue(block.x);
     y_->setValue(block.y);
     width_->setValue(block.width);

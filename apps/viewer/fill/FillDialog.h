@@ -1,6 +1,6 @@
 #pragma once
 
-#include "apps/viewer/logic/WellBlock.h"
+#include "apps/viewer/logic/FillBlock.h"
 
 #include <QDialog>
 
@@ -24,7 +24,7 @@ class FillDialog final : public QDialog {
   public:
     FillDialog(PlateSession& session, QWidget* parent);
 
-    void SetBlock(const WellBlock& block);
+    void SetBlock(const FillBlock& block);
     /// Fills the block; stays open, and says what is wrong, when it cannot.
     void accept() override;
     QString Problem() const;

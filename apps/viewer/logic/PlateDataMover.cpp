@@ -1,6 +1,7 @@
 #include "apps/viewer/logic/PlateDataMover.h"
 
 #include "apps/viewer/logic/WellSnapshot.h"
+#include "control/WellGrid.h"
 
 #include <optional>
 #include <vector>
@@ -17,10 +18,12 @@ struct Move {
 
 /// The well that many columns and rows away in the same sub-well; none outside the plate.
 std::optional<Integer> WellAway(const Plate& plate, Integer well, int columns, int rows) {
-    const int column = well % plate.Cols + columns;
-    const int row = well / plate.Cols % plate.Rows + rows;
+    const WellGrid grid{plate.Rows, plate.Cols};
+    const WellPlace place = grid.PlaceOf(well);
+    const int column = place.col + columns;
+    const int row = place.row + rows;
     if (column < 0 || column >= plate.Cols || row < 0 || row >= plate.Rows) return std::nullopt;
-    return static_cast<Integer>(well + rows * plate.Cols + columns);
+    return grid.NumberOf({place.subWell, static_cast<Integer>(row), static_cast<Integer>(column)});
 }
 
 std::optional<std::vector<Move>> MovesOfSelection(const Plate& plate, int columns, int rows) {

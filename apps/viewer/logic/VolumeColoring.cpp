@@ -1,5 +1,7 @@
 #include "apps/viewer/logic/VolumeColoring.h"
 
+#include "control/WellGrid.h"
+
 namespace zorvane::viewer {
 
 void VolumeColoring::SetOn(bool on) {
@@ -33,7 +35,8 @@ void VolumeColoring::GiveBack() {
 Long VolumeColoring::ColorOf(Integer wellNo) const {
     const auto volume = KnownVolume(plate_, wellNo);
     if (!volume) return plate_.DefaultWellColor();
-    return scales_[static_cast<std::size_t>(wellNo / (plate_.Rows * plate_.Cols))].ColorOf(*volume);
+    const WellPlace place = WellGrid{plate_.Rows, plate_.Cols}.PlaceOf(wellNo);
+    return scales_[static_cast<std::size_t>(place.subWell - 1)].ColorOf(*volume);
 }
 
 } // namespace zorvane::viewer

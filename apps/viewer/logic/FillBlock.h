@@ -5,7 +5,7 @@
 namespace zorvane::viewer {
 
 /// A block of well positions, columns and rows counted from 0.
-struct WellBlock {
+struct FillBlock {
     int x = 0;
     int y = 0;
     int width = 1;
@@ -14,6 +14,6 @@ struct WellBlock {
 
 /// The block to suggest for a fill: the one around the selected wells of the current sub-well, else
 /// the current well.
-WellBlock SuggestedBlock(const Plate& plate);
+FillBlock SuggestedBlock(const Plate& plate);
 
 } // namespace zorvane::viewer
