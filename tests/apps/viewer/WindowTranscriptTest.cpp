@@ -113,17 +113,19 @@ class Operator {
         if (verb == "choose") Choose(rest);
         if (verb == "page") plate.PageChosen(rest.toShort());
         if (verb == "close") report_ += window_.close() ? "closed\n" : "stays\n";
-        if (verb == "write")
-            folder_.Put(
-                file.toStdString(),
-                rest.section(' ', 1).replace("{grid}", kGrid).replace("\\n", "\n").toStdString());
-        if (verb == "append")
+        if (verb == "write") {
+            QString text = rest.section(' ', 1).replace("{grid}", kGrid);
+            folder_.Put(file.toStdString(), text.replace("\\n", "\n").toStdString());
+        }
+        if (verb == "append") {
             std::ofstream(file.toStdString(), std::ios::app)
                 << rest.section(' ', 1).toStdString() << "\n";
+        }
         if (verb == "remove") std::filesystem::remove(file.toStdString());
-        if (verb == "compare")
+        if (verb == "compare") {
             report_ += QString::fromStdString(UnifiedDifference(Bytes(ZORVANE_SAMPLE_LIBRARY),
                                                                 Bytes(file.toStdString()), "file"));
+        }
         if (verb == "show") report_ += QString::fromStdString(Bytes(file.toStdString()));
         if (verb == "scale") report_ += QString::number(double{plate.DrawingScale()}) + "\n";
         if (verb == "state") before_.clear();
@@ -158,9 +160,10 @@ class Operator {
 
     void Drop(const QStringList& files) {
         QList<QUrl> urls;
-        for (const QString& file : files)
-            urls += file.contains(':') ? QUrl(file)
-                                       : QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath());
+        for (const QString& file : files) {
+            const QFileInfo local(file);
+            urls += file.contains(':') ? QUrl(file) : QUrl::fromLocalFile(local.absoluteFilePath());
+        }
         QMimeData data;
         data.setUrls(urls);
         QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, {});
@@ -175,9 +178,12 @@ class Operator {
     void Choose(const QString& plate) {
         const LibraryListing listing =
             ListLibrary(before_.value("title").section(" – ", 1, 1).toStdString());
-        for (std::size_t i = 0; i < listing.plates.size(); ++i)
-            if (listing.plates[i].name == plate.toStdString())
-                window_.findChild<LibraryPanel*>()->Choose(static_cast<int>(i));
+        int index = 0;
+        for (const LibraryEntry& entry : listing.plates) {
+            if (entry.name == plate.toStdString())
+                window_.findChild<LibraryPanel*>()->Choose(index);
+            ++index;
+        }
     }
 
     void LookForDialog() {
