@@ -40,8 +40,8 @@ String NameIn(std::string_view definition) {
 
 String Renamed(const String& definition, const String& name) {
     if (name.empty() || name.front() == ';' || name.find_first_of(" \t\r\n") != name.npos) {
-        throw RuntimeError(static_cast<Long>(ErrorNumber::InvalidProcedureCall), "Zorvane",
-                           "the name of a plate is one word that does not begin with \";\"");
+        Raise(ErrorNumber::InvalidProcedureCall,
+              "the name of a plate is one word that does not begin with \";\"");
     }
     String text;
     for (const TextLine& line : LinesOf(definition)) {

@@ -58,12 +58,10 @@ String ReasonOf(int error) {
     }
 }
 
-[[noreturn]] void RaiseError(int error) {
-    throw RuntimeError(static_cast<Long>(NumberOf(error)), "Zorvane", ReasonOf(error));
-}
+[[noreturn]] void RaiseError(int error) { Raise(NumberOf(error), ReasonOf(error)); }
 
 [[noreturn]] void RaiseNoAccess(const String& reason) {
-    throw RuntimeError(static_cast<Long>(ErrorNumber::PathFileAccess), "Zorvane", reason);
+    Raise(ErrorNumber::PathFileAccess, reason);
 }
 
 /// Raises the error of a call that failed.

@@ -19,7 +19,8 @@ class LibraryDocument {
     bool ChangedOnDisk() const;
     /// Takes what the file holds now.
     void Reload();
-    /// Puts a changed text in place of what was read; kChangedOnDisk when the file has changed.
+    /// Puts a changed text in place of what was read; ErrorNumber::ChangedOnDisk when the file has
+    /// changed.
     void Save(const LibraryText& text);
 
   private:

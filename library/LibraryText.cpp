@@ -15,8 +15,7 @@ namespace zorvane {
 namespace {
 
 [[noreturn]] void Fail(const String& description) {
-    constexpr Long notPossible = 1102;
-    throw RuntimeError(notPossible, "Zorvane", description);
+    Raise(ErrorNumber::EditNotPossible, description);
 }
 
 bool IsBlankOrComment(std::string_view line) { return Trim(line).empty() || IsCommentLine(line); }

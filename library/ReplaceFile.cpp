@@ -69,19 +69,15 @@ class Replacement {
     }
 
     [[noreturn]] void Fail(const RuntimeError& error) const {
-        const bool changed = error.Number() == kChangedOnDisk;
+        const bool changed = error.Is(ErrorNumber::ChangedOnDisk);
         const String said = error.Description() + ".";
-        throw RuntimeError(error.Number(), "Zorvane",
+        throw RuntimeError(error.Number(), kErrorSource,
                            path_ + " was not saved: " +
                                (changed ? said + " Nothing was overwritten."
                                         : step_ + " failed: " + said + outcome_));
     }
 
   private:
-    [[noreturn]] static void Raise(ErrorNumber number, const String& reason) {
-        throw RuntimeError(static_cast<Long>(number), "Zorvane", reason);
-    }
-
     void ReplaceExpected(const String& target, std::string_view expected, Temporary& fresh) {
         step_ = "writing a backup of it";
         Temporary backup(files_, target);
@@ -90,10 +86,8 @@ class Replacement {
         step_ = "waiting for other programs";
         const auto lock = files_.LockFolder(target);
         step_ = "reading it again";
-        if (files_.Read(target) != expected) {
-            throw RuntimeError(kChangedOnDisk, "Zorvane",
-                               "another program has changed it since it was read");
-        }
+        if (files_.Read(target) != expected)
+            Raise(ErrorNumber::ChangedOnDisk, "another program has changed it since it was read");
         step_ = "keeping the backup";
         backup.MoveTo(BackupOf(target));
         step_ = "putting the new content in its place";

@@ -7,9 +7,6 @@
 
 namespace zorvane {
 
-/// The number of the failure of a save that found other content than it expected.
-inline constexpr Long kChangedOnDisk = 1101;
-
 /// Where the content that a save replaced is kept.
 String BackupOf(const String& path);
 
@@ -22,7 +19,7 @@ String BackupOf(const String& path);
 /// as BackupOf(file), in place of an earlier backup.
 ///
 /// Any failure leaves the file as it was, removes the temporary ones and raises a RuntimeError that
-/// says what failed and why: kChangedOnDisk, or the number of the FileLayer.
+/// says what failed and why: ErrorNumber::ChangedOnDisk, or the number of the FileLayer.
 void ReplaceFile(FileLayer& files, const String& path, std::string_view bytes,
                  std::optional<std::string_view> expected = std::nullopt);
 

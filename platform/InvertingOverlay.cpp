@@ -6,8 +6,7 @@ namespace zorvane {
 
 namespace {
 
-/// True when the pixel at this place along a figure is drawn: three on, three off.
-bool IsDrawn(std::int64_t place, bool dotted) { return !dotted || place % 6 < 3; }
+bool IsDrawn(std::int64_t place, bool dotted) { return !dotted || IsInDash(place); }
 
 } // namespace
 

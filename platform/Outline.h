@@ -9,6 +9,9 @@
 /// bits, so that figures with any 32-bit corners come out without overflow.
 namespace zorvane {
 
+/// Whether a dotted pen draws the pixel at this place along a figure: three on, three off.
+constexpr bool IsInDash(std::int64_t place) { return place % 6 < 3; }
+
 /// A box of pixels; the right and bottom edges are exclusive.
 struct PixelBox {
     std::int64_t left = 0;

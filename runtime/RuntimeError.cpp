@@ -35,6 +35,7 @@ const char* DescriptionOf(ErrorNumber number) noexcept {
         return "Object variable not set";
     case ErrorNumber::DuplicateKey:
         return "This key is already associated with an element of this collection";
+    case ErrorNumber::CommandFailed:
     case ErrorNumber::XMLNotOpened:
     case ErrorNumber::XMLNotRead:
     case ErrorNumber::XMLNotWritten:

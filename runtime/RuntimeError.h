@@ -23,6 +23,7 @@ enum class ErrorNumber : Long {
     ObjectNotSet = 91,
     DuplicateKey = 457,
 
+    CommandFailed = 1, ///< of the command-line tool, which shows the text only
     XMLNotOpened = 1050,
     XMLNotRead = 1051,
     XMLNotWritten = 1053,
@@ -38,6 +39,7 @@ class RuntimeError : public std::exception {
     RuntimeError(Long number, String source, String description);
 
     Long Number() const noexcept { return number_; }
+    bool Is(ErrorNumber number) const noexcept { return number_ == static_cast<Long>(number); }
     const String& Source() const noexcept { return source_; }
     const String& Description() const noexcept { return description_; }
     const char* what() const noexcept override { return description_.c_str(); }

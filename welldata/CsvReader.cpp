@@ -8,9 +8,10 @@ namespace zorvane {
 
 void FailAt(Long line, std::size_t column, const String& message, const String& columnName) {
     const String name = columnName.empty() ? String() : " (" + columnName + ")";
-    throw RuntimeError(static_cast<Long>(ErrorNumber::TypeMismatch), "Zorvane::WellData",
-                       "line " + std::to_string(line) + ", column " + std::to_string(column) +
-                           name + ": " + message);
+    Raise(ErrorNumber::TypeMismatch,
+          "line " + std::to_string(line) + ", column " + std::to_string(column) + name + ": " +
+              message,
+          "Zorvane::WellData");
 }
 
 CsvReader::CsvReader(std::string_view text) : text_(text) {

@@ -12,8 +12,6 @@ namespace zorvane {
 
 namespace {
 
-constexpr Long kToolFailure = 1;
-
 bool IsStandard(const String& file) { return file.empty() || file == "-"; }
 
 bool IsDevice(const String& file) {
@@ -28,7 +26,7 @@ void Write(std::ostream& out, std::string_view bytes, const String& name) {
 
 } // namespace
 
-void Fail(const String& description) { throw RuntimeError(kToolFailure, "plate", description); }
+void Fail(const String& description) { Raise(ErrorNumber::CommandFailed, description, "plate"); }
 
 void Print(std::string_view text) { Write(std::cout, text, "standard output"); }
 

@@ -9,8 +9,6 @@ namespace zorvane {
 
 namespace {
 
-constexpr Long kOutsidePlate = 2999;
-
 /// One direction of a walk: `count` positions from `first` in steps of +1 or -1.
 struct Run {
     Integer first;
@@ -48,8 +46,8 @@ void WellBlock::Check() const {
     const Integer right = Checked(x_) + width_;
     const Integer bottom = Checked(y_) + height_;
     if (bottom > fields_.Rows || right > fields_.Cols || x_ < 0 || y_ < 0) {
-        throw RuntimeError(kOutsidePlate, "Zorvane::SelectBlock",
-                           "Attempt to select wells outside <" + plateName_ + "> plate");
+        Raise(ErrorNumber::ArrayOutsidePlate,
+              "Attempt to select wells outside <" + plateName_ + "> plate", "Zorvane::SelectBlock");
     }
 }
 

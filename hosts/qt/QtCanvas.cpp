@@ -2,6 +2,7 @@
 
 #include "hosts/qt/QtPalette.h"
 #include "hosts/qt/Units.h"
+#include "platform/Outline.h"
 
 #include <QList>
 #include <QPainter>
@@ -22,24 +23,17 @@ QFont Sized(QFont font, double pixels, bool bold) {
     return font;
 }
 
-/// The outermost pixels of a rectangle, three and leaving out three, each of them once.
+/// The outermost pixels of a rectangle that a dotted pen draws.
 QList<QPoint> DottedEdge(const QRect& box) {
     QList<QPoint> dots;
-    int count = 0;
-    const auto pass = [&](int x, int y) {
-        if (count++ % 6 < 3) dots.append({x, y});
-    };
-    for (int x = box.left(); x <= box.right(); ++x)
-        pass(x, box.top());
-    for (int y = box.top() + 1; y <= box.bottom(); ++y)
-        pass(box.right(), y);
-    if (box.height() > 1) {
-        for (int x = box.right() - 1; x >= box.left(); --x)
-            pass(x, box.bottom());
-    }
-    if (box.width() > 1) {
-        for (int y = box.bottom() - 1; y > box.top(); --y)
-            pass(box.left(), y);
+    const PixelBox pixels{box.left(), box.top(), box.left() + box.width(),
+                          box.top() + box.height()};
+    for (const PixelRun& run : RectangleRuns(pixels)) {
+        for (std::int64_t i = 0; i < run.length; ++i) {
+            if (!IsInDash(run.place + i)) continue;
+            dots.append(
+                {static_cast<int>(run.x + i * run.dx), static_cast<int>(run.y + i * run.dy)});
+        }
     }
     return dots;
 }

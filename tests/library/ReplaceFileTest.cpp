@@ -105,7 +105,7 @@ TEST(LibraryDocument, OverwritesNothingThatCameMeanwhile) {
     const String theirs = "PLATE One\nROWS 3\n";
     files.onRead = [&] { folder.Put("a.dat", theirs); }; // at the very last moment
     const RaisedError raised = RaisedBy([&] { document.Save(edited); });
-    EXPECT_EQ(raised.number, kChangedOnDisk);
+    EXPECT_EQ(raised.number, static_cast<Long>(ErrorNumber::ChangedOnDisk));
     EXPECT_TRUE(raised.description.ends_with(" was not saved: another program has changed it since "
                                              "it was read. Nothing was overwritten."));
     EXPECT_EQ(folder.Bytes("a.dat"), theirs);

@@ -14,8 +14,6 @@ namespace zorvane {
 
 namespace {
 
-constexpr Long kEndOfFile = 1051;
-
 /// What an error of a file says, with the file's name in it.
 String WordsFor(const RuntimeError& error, const String& file) {
     for (const String& words : {error.Description(), error.Source()}) {
@@ -40,7 +38,7 @@ bool IsAtEnd(XMLFile& x) {
     try {
         x.ReadXMLSectionHeader();
     } catch (const RuntimeError& error) {
-        return error.Number() == kEndOfFile;
+        return error.Is(ErrorNumber::XMLNotRead);
     }
     return false;
 }

@@ -135,7 +135,7 @@ bool EditMode::Saving(const std::function<void()>& save) {
 /// Nothing was saved. When the library was changed by somebody else, the operator has a choice.
 bool EditMode::Resolve(const RuntimeError& error) {
     Report(error);
-    if (error.Number() != kChangedOnDisk) return false;
+    if (!error.Is(ErrorNumber::ChangedOnDisk)) return false;
     switch (questions_.AskConflict(QString::fromStdString(error.Description()))) {
     case EditQuestions::Conflict::Reload:
         Reload();

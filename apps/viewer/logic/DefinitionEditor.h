@@ -13,7 +13,7 @@ namespace zorvane::viewer {
 /// goes in and out as text, and the library changes only when it is saved.
 ///
 /// Failures are RuntimeErrors with a description for the operator, and leave everything as it was;
-/// a save that finds the file changed raises kChangedOnDisk.
+/// a save that finds the file changed raises ErrorNumber::ChangedOnDisk.
 class DefinitionEditor {
   public:
     explicit DefinitionEditor(FileLayer& files) : files_(files) {}
