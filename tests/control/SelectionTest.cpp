@@ -5,64 +5,6 @@ namespace {
 
 using SelectionTest = ControlTest;
 
-TEST_F(SelectionTest, ActionsOnTheSelection) {
-    Load(OneDrop());
-    const auto set = [&](const char* what, Boolean multiple, WellSelectAction action, Integer col,
-                         const char* selected) {
-        SCOPED_TRACE(what);
-        plate.SetWell(0, 0);
-        plate.MultipleSelect = multiple;
-        plate.SetWell(2, col, "", action);
-        EXPECT_EQ(Selected(), selected);
-        EXPECT_EQ(plate.CurrentWell(), 24 + col);
-        EXPECT_EQ(plate.Location(), "Drop1, 2, " + std::to_string(col));
-        for (Integer i = 0; i < 96; ++i) {
-            EXPECT_EQ(Shown().WellRim[static_cast<std::size_t>(i)].fill,
-                      plate.IsSelected(i) ? plate.DefaultSelectColor : plate.DefaultRimColor());
-        }
-    };
-    set("single", false, wsSingle, 5, "1: 29");
-    set("single among many", true, wsSingle, 5, "1: 29");
-    set("add", true, wsAddToSelection, 5, "2: 0 29");
-    set("add where only one may be selected", false, wsAddToSelection, 5, "1: 29");
-    set("silent", true, wsSilent, 5, "1: 0");
-    set("silent where only one may be selected", false, wsSilent, 5, "0:");
-
-    plate.MultipleSelect = true;
-    plate.SetWell(0, 0);
-    plate.SetWell(0, 0); // a single selection of the selected well keeps it
-    EXPECT_EQ(Selected(), "1: 0");
-    plate.SetWell(0, 0, "", wsAddToSelection);
-    EXPECT_EQ(Selected(), "0:");
-    EXPECT_EQ(events.Take(), "");
-}
-
-TEST_F(SelectionTest, SetWellFindsTheSubWellByTheNameAskedFor) {
-    Load(DropOnReservoir());
-    const auto finds = [&](const char* name, Integer col, Integer well, Long number) {
-        EXPECT_EQ(NumberRaisedBy([&] { plate.SetWell(0, col, name); }), number) << name;
-        EXPECT_EQ(plate.CurrentWell(), well) << name;
-    };
-    finds("", 1, 1, 0);
-    finds("reservoir", 1, 97, 0);
-    finds("default", 1, 1, 0);
-    finds("Other", 1, 193, 9);
-    finds("Other", 0, 192, 91);
-}
-
-TEST_F(SelectionTest, MarksSetByTheHostAreNotCounted) {
-    Load(DropOnReservoir(2, 2));
-    plate.SetWell(0, 0);
-    plate.SelectAll(true);
-    EXPECT_EQ(Selected(), "1: 0 1 2 3 4 5 6 7");
-    plate.SelectAll(false);
-    plate.WellSelected(true);
-    EXPECT_EQ(Selected(), "1: 0");
-    EXPECT_EQ(NumberRaisedBy([&] { plate.SelectWell(-1, true); }), 9);
-    EXPECT_EQ(NumberRaisedBy([&] { plate.SelectWell(8, true); }), 91);
-    EXPECT_EQ(events.Take(), "");
-}
-
 TEST_F(SelectionTest, TheWellUnderAPoint) {
     struct Hit {
         Single x, y;

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "control/Plate.h"
+
+#include <map>
+
+namespace zorvane {
+
+/// A host with one control, as the transcripts of behaviour drive it: what an operator does to its
+/// window, and what its window shows besides the control's own elements. X and Y are drawing units
+/// in the plate area, multiples of a pixel; buttons, shift keys and key codes are the control's.
+class HostDriver {
+  public:
+    virtual ~HostDriver() = default;
+
+    virtual Plate& Control() = 0;
+
+    virtual void Press(Integer button, Integer shift, Single x, Single y) = 0;
+    virtual void DoubleClick(Integer button, Integer shift, Single x, Single y) = 0;
+    virtual void Move(Integer buttons, Integer shift, Single x, Single y) = 0;
+    virtual void Release(Integer button, Integer shift, Single x, Single y) = 0;
+    virtual void KeyDown(Integer keyCode, Integer character, Integer shift) = 0;
+    virtual void KeyUp(Integer keyCode, Integer shift) = 0;
+
+    virtual void PressDataButton() = 0;
+    virtual void ChoosePage(Integer position) = 0;
+    virtual void TypeComment(const String& text) = 0;
+    virtual void TypeRow(Integer row, const String& text) = 0;
+    virtual void ChooseStyle(Integer position) = 0;
+    virtual void PressApply() = 0;
+    /// Opens the menu, chooses an entry (-1 for none) and answers the question that follows.
+    virtual void ChooseCommand(Integer entry, const String& answer) = 0;
+
+    /// What the window shows by name: whether there is an outline, the tooltip, the pointer,
+    /// whether it has taken the focus since the last call, and the question asked last.
+    virtual std::map<String, String> Window() = 0;
+};
+
+} // namespace zorvane
