@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TestProcess.h"
+#include "Test.h"
 #include "control/Plate.h"
 #include "platform/memory/MemorySite.h"
 

@@ -67,6 +67,30 @@ const std::map<String, Action>& HostCalls() {
          }},
         {"select-all", [](auto& h, auto& w) { h.Control().SelectAll(w.Flag()); }},
         {"clear-selection", [](auto& h, auto&) { h.Control().ClearSelection(); }},
+        {"set-array",
+         [](auto& h, auto& w) {
+             const Integer x = w.Whole();
+             const Integer y = w.Whole();
+             const Integer width = w.Whole();
+             const Integer height = w.Whole();
+             const String name = w.Word();
+             const Long order = w.Whole();
+             const String color = w.Word();
+             h.Control().SetArray(x, y, width, height, name, order,
+                                  color.empty() ? kNoColor : ParseLong(color));
+         }},
+        {"fill",
+         [](auto& h, auto& w) {
+             const Integer start = w.Whole();
+             const Integer stop = w.Whole();
+             const String color = w.Word();
+             const String text = w.Rest();
+             h.Control().FillArray(color == "none" ? kNoColor : ParseLong(color),
+                                   text.empty()     ? kNoValue
+                                   : text == "\"\"" ? ""
+                                                    : text,
+                                   start, stop);
+         }},
         {"text",
          [](auto& h, auto& w) {
              const Integer well = w.Whole();

@@ -1,4 +1,4 @@
-#include "TempFile.h"
+#include "Test.h"
 #include "control/ControlFixture.h"
 #include "platform/memory/MemoryPropertyStore.h"
 

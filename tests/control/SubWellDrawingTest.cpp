@@ -1,6 +1,6 @@
 #include "control/layout/SubWellDrawing.h"
 
-#include "Raised.h"
+#include "Test.h"
 
 #include <gtest/gtest.h>
 

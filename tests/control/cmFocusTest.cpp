@@ -1,7 +1,6 @@
 #include "control/cmFocus.h"
 
-#include "Raised.h"
-#include "TestProcess.h"
+#include "Test.h"
 #include "control/DrawingLog.h"
 #include "platform/memory/MemorySite.h"
 

@@ -1,5 +1,5 @@
 #include "drawing/SvgCanvas.h"
-#include "TestProcess.h"
+#include "Test.h"
 #include "control/Plate.h"
 #include "drawing/PlatePainter.h"
 #include "platform/memory/MemorySite.h"
