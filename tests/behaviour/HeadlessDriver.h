@@ -1,6 +1,7 @@
 #pragma once
 
 #include "behaviour/HostDriver.h"
+#include "behaviour/Snapshot.h"
 #include "control/InputRouter.h"
 #include "platform/memory/MemorySite.h"
 
@@ -35,7 +36,9 @@ class HeadlessDriver final : public HostDriver, private InputRouter::Host {
     void TypeComment(const String& text) override { plate_.CommentTyped(text); }
     void TypeRow(Integer row, const String& text) override { plate_.RowTyped(row, text); }
     void ChooseStyle(Integer position) override { plate_.StyleChosen(position); }
-    void PressApply() override { plate_.ApplyPressed(); }
+    void PressApply() override {
+        if (plate_.Elements().panel.cmdApply.enabled) plate_.ApplyPressed();
+    }
     void ChooseCommand(Integer entry, const String& answer) override {
         site_.choices = {entry};
         site_.answers = {answer};
@@ -46,7 +49,8 @@ class HeadlessDriver final : public HostDriver, private InputRouter::Host {
     std::map<String, String> Window() override {
         String asked;
         for (const Question& question : site_.questions)
-            asked += "[" + question.title + "] " + question.prompt + " (" + question.preset + ")";
+            asked += "[" + question.title + "] " + OnOneLine(question.prompt) + " (" +
+                     question.preset + ")";
         return {{"outline", site_.overlay.Any() ? "shown" : ""},
                 {"tooltip", plate_.Elements().plateToolTip},
                 {"pointer", std::to_string(static_cast<int>(plate_.Elements().platePointer))},

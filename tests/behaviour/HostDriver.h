@@ -3,6 +3,7 @@
 #include "control/Plate.h"
 
 #include <map>
+#include <set>
 
 namespace zorvane {
 
@@ -34,6 +35,8 @@ class HostDriver {
     /// What the window shows by name: whether there is an outline, the tooltip, the pointer,
     /// whether it has taken the focus since the last call, and the question asked last.
     virtual std::map<String, String> Window() = 0;
+    /// Names, of the window or the control, that this host cannot show as others do.
+    virtual std::set<String> Unseen() const { return {}; }
 };
 
 } // namespace zorvane

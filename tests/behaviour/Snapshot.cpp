@@ -36,12 +36,6 @@ String Groups(Integer wells, Shown shown) {
     return text;
 }
 
-String Lines(String text) {
-    for (std::size_t at = 0; (at = text.find("\r\n", at)) != text.npos;)
-        text.replace(at, 2, " | ");
-    return text;
-}
-
 void AddWells(std::map<String, String>& all, const Plate& plate) {
     const Surface& surface = plate.Elements();
     const Integer wells = plate.TotalWells();
@@ -83,7 +77,7 @@ void AddPanel(std::map<String, String>& all, const Plate& plate) {
         pages += "[" + page + "]";
     all["pages"] = pages;
     all["page"] = std::to_string(panel.comboSelect.position);
-    all["comment"] = panel.txtComment.visible ? Lines(panel.txtComment.text) : String("hidden");
+    all["comment"] = panel.txtComment.visible ? OnOneLine(panel.txtComment.text) : String("hidden");
     String rows;
     for (std::size_t row = 0; row < panel.txtData.size(); ++row) {
         if (panel.lblAnnotation[row].visible)
@@ -112,6 +106,12 @@ void AddPanel(std::map<String, String>& all, const Plate& plate) {
 
 } // namespace
 
+String OnOneLine(String text) {
+    for (std::size_t at = 0; (at = text.find("\r\n", at)) != text.npos;)
+        text.replace(at, 2, " | ");
+    return text;
+}
+
 void EventLog::DoubleClick() { lines_ += Event("DoubleClick"); }
 void EventLog::Click() { lines_ += Event("Click"); }
 void EventLog::SelectWell(Integer wellNo) { lines_ += Event("SelectWell", wellNo); }
@@ -134,8 +134,10 @@ std::map<String, String> SnapshotOf(HostDriver& host) {
     std::map<String, String> all = host.Window();
     AddWells(all, plate);
     AddPanel(all, plate);
-    if (RaisedBy([&] { all["text"] = Lines(plate.PlateClassText()); }).number != 0)
+    if (RaisedBy([&] { all["text"] = OnOneLine(plate.PlateClassText()); }).number != 0)
         all["text"] = "";
+    for (const String& name : host.Unseen())
+        all.erase(name);
     return all;
 }
 

@@ -26,6 +26,9 @@ class EventLog final : public PlateObserver {
     String lines_;
 };
 
+/// The text with " | " for its line breaks.
+String OnOneLine(String text);
+
 /// Everything that a control and its window show, by name.
 std::map<String, String> SnapshotOf(HostDriver& host);
 

@@ -108,6 +108,9 @@ const std::map<String, Action>& HostCalls() {
          }},
         {"selected", [](auto& h, auto& w) { h.Control().Selected(w.Flag()); }},
         {"style-of-current", [](auto& h, auto& w) { h.Control().Style(w.Whole()); }},
+        {"page-chosen", [](auto& h, auto& w) { h.Control().PageChosen(w.Whole()); }},
+        {"style-chosen", [](auto& h, auto& w) { h.Control().StyleChosen(w.Whole()); }},
+        {"row-typed", [](auto& h, auto& w) { h.Control().RowTyped(w.Whole(), ""); }},
         {"show-page", [](auto& h, auto& w) { h.Control().SetDataDisplay(w.Whole()); }},
         {"read-page", [](auto& h, auto& w) { h.Control().GetDataDisplay(w.Whole()); }},
     };
@@ -213,7 +216,9 @@ String Replayed(HostDriver& host, std::string_view transcript) {
 
 void ExpectReplay(HostDriver& host, const std::filesystem::path& transcript) {
     std::ifstream file(transcript, std::ios::binary);
-    const String recorded{std::istreambuf_iterator<char>(file), {}};
+    String recorded;
+    for (String line; std::getline(file, line);)
+        if (!host.Unseen().contains(line.substr(0, line.find(':')))) recorded += line + "\n";
     const String replayed = Replayed(host, recorded);
     if (!recorded.empty() && replayed == recorded) return;
     std::ofstream(transcript.string() + ".new", std::ios::binary) << replayed;

@@ -10,23 +10,6 @@ namespace zorvane {
 
 // Well numbers on the plate of the form: Drop in row 1, column 2 is 8, in row 2, column 4 is 16.
 
-TEST(PlateWidgetInput, ClicksFollowTheReleaseAndDoubleClicksTheSecondPress) {
-    Form form;
-    QTest::mouseClick(&form.widget, Qt::LeftButton, {}, form.At(8));
-    EXPECT_EQ(form.Signals(), "wellSelected 8, clicked");
-
-    // The second press of a double click comes as an event of its own.
-    QTest::mouseClick(&form.widget, Qt::LeftButton, {}, form.At(16));
-    QTest::mouseDClick(&form.widget, Qt::LeftButton, {}, form.At(16));
-    EXPECT_EQ(form.Signals(), "wellSelected 16, clicked, doubleClicked");
-    form.Release(16);
-    EXPECT_EQ(form.Signals(), "wellSelected 16");
-
-    form.widget.setMultipleSelect(false);
-    QTest::mouseClick(&form.widget, Qt::LeftButton, {}, form.At(8));
-    EXPECT_EQ(form.Signals().substr(0, 19), "mouseReleased 1 0 3");
-}
-
 TEST(PlateWidgetInput, PositionsAreDrawingUnitsInThePlateAreaOnEveryScreen) {
     Form form;
     form.widget.plate().FixedSize = true;
@@ -57,21 +40,6 @@ TEST(PlateWidgetInput, AGestureEndsWhenItsReleaseWasLost) {
                      Qt::NoButton, Qt::NoButton, {});
     QApplication::sendEvent(&form.widget, &move);
     EXPECT_EQ(form.Signals(), "multipleWellsSelected");
-}
-
-TEST(PlateWidgetInput, KeysMoveTheCurrentWell) {
-    Form form;
-    QTest::mouseClick(&form.widget, Qt::LeftButton, {}, form.At(8));
-    const auto moves = [&](auto key, Integer well) {
-        QTest::keyClick(&form.widget, key);
-        EXPECT_EQ(form.widget.plate().CurrentWell(), well) << "key " << key;
-    };
-    moves(Qt::Key_Right, 9);
-    moves(Qt::Key_Down, 15);
-    moves(Qt::Key_Left, 14);
-    moves(Qt::Key_Up, 8);
-    moves('\'', 9);
-    moves(Qt::Key_5, 9);
 }
 
 TEST(PlateWidgetInput, APressTakesTheFocusUnlessTheMouseIsDisabled) {
