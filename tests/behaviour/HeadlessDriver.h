@@ -41,9 +41,12 @@ class HeadlessDriver final : public HostDriver, private InputRouter::Host {
     }
     void ChooseCommand(Integer entry, const String& answer) override {
         site_.choices = {entry};
-        site_.answers = {answer};
-        site_.questions.clear();
+        Expect(answer);
         plate_.MenuPressed();
+    }
+    void RunCommand(SubWellCommand command, const String& answer) override {
+        Expect(answer);
+        plate_.MenuChosen(command);
     }
 
     std::map<String, String> Window() override {
@@ -59,6 +62,10 @@ class HeadlessDriver final : public HostDriver, private InputRouter::Host {
     }
 
   private:
+    void Expect(const String& answer) {
+        site_.answers = {answer};
+        site_.questions.clear();
+    }
     void Attempt(const std::function<void()>& call) override { call(); }
     Single Left() const { return plate_.Elements().fraPlate.box.left; }
     Single Top() const { return plate_.Elements().fraPlate.box.top; }

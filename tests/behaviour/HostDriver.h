@@ -31,6 +31,8 @@ class HostDriver {
     virtual void PressApply() = 0;
     /// Opens the menu, chooses an entry (-1 for none) and answers the question that follows.
     virtual void ChooseCommand(Integer entry, const String& answer) = 0;
+    /// Runs a command for the host, whether or not the menu offers it, and answers its question.
+    virtual void RunCommand(SubWellCommand command, const String& answer) = 0;
 
     /// What the window shows by name: whether there is an outline, the tooltip, the pointer,
     /// whether it has taken the focus since the last call, and the question asked last.

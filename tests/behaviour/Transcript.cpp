@@ -108,6 +108,11 @@ const std::map<String, Action>& HostCalls() {
          }},
         {"selected", [](auto& h, auto& w) { h.Control().Selected(w.Flag()); }},
         {"style-of-current", [](auto& h, auto& w) { h.Control().Style(w.Whole()); }},
+        {"command",
+         [](auto& h, auto& w) {
+             const auto command = static_cast<SubWellCommand>(w.Whole());
+             h.RunCommand(command, w.Rest());
+         }},
         {"page-chosen", [](auto& h, auto& w) { h.Control().PageChosen(w.Whole()); }},
         {"style-chosen", [](auto& h, auto& w) { h.Control().StyleChosen(w.Whole()); }},
         {"row-typed", [](auto& h, auto& w) { h.Control().RowTyped(w.Whole(), ""); }},

@@ -77,12 +77,13 @@ class QtDriver final : public HostDriver {
         ThrowFailure();
     }
     void ChooseCommand(Integer entry, const String& answer) override {
-        asked_.clear();
-        QTimer operator_;
-        QObject::connect(&operator_, &QTimer::timeout, [&] { Answer(entry, answer); });
-        operator_.start(1);
+        const auto operating = Answering(entry, answer);
         QTest::mouseClick(Captioned("...."), Qt::LeftButton);
         ThrowFailure();
+    }
+    void RunCommand(SubWellCommand command, const String& answer) override {
+        const auto operating = Answering(command, answer);
+        Control().MenuChosen(command);
     }
 
     std::map<String, String> Window() override {
@@ -136,6 +137,15 @@ class QtDriver final : public HostDriver {
         list->setCurrentIndex(position);
         emit list->activated(position);
         ThrowFailure();
+    }
+    /// Answers what opens for as long as the result lives.
+    std::unique_ptr<QTimer> Answering(Integer entry, const String& answer) {
+        asked_.clear();
+        auto timer = std::make_unique<QTimer>();
+        QObject::connect(timer.get(), &QTimer::timeout,
+                         [this, entry, answer] { Answer(entry, answer); });
+        timer->start(1);
+        return timer;
     }
     /// Answers the menu and then the question that are open; what cannot be chosen is dismissed.
     void Answer(Integer entry, const String& answer) {
