@@ -61,6 +61,8 @@ function(zorvane_floor name)
         set(FLOOR_FOLDERS ${name})
     endif()
     add_library(zorvane_${name} STATIC ${FLOOR_SOURCES})
+    # A host may link them into a plug-in.
+    set_target_properties(zorvane_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
     add_library(zorvane::${name} ALIAS zorvane_${name})
     foreach(folder IN LISTS FLOOR_FOLDERS)
         zorvane_include_root(zorvane_${name} ${folder})
