@@ -6,6 +6,8 @@ target_compile_features(zorvane_options INTERFACE cxx_std_20)
 if(NOT MSVC)
     target_compile_options(zorvane_options INTERFACE
         -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+        # No function of the floors is replaced at load time, so that the compiler may inline them.
+        -fno-semantic-interposition
         # Optimising, GCC 12 takes one-character texts given to std::string for overlapping copies.
         $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
         $<$<BOOL:${ZORVANE_WARNINGS_AS_ERRORS}>:-Werror>)

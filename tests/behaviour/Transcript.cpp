@@ -190,7 +190,7 @@ String AnswerTo(HostDriver& host, EventLog& events, const String& command, const
     for (const auto& [name, value] : SnapshotOf(host)) {
         const auto old = before.find(name);
         if (old == before.end() ? !value.empty() : old->second != value)
-            answer += name + ": " + value + "\n";
+            answer.append(name).append(": ").append(value).append("\n");
     }
     return answer;
 }

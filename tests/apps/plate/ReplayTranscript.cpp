@@ -45,7 +45,11 @@ std::string Replayed(const std::string& transcript) {
 
 } // namespace
 
-int main(int /*argc*/, char** argv) {
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: replay_transcript TRANSCRIPT\n");
+        return EXIT_FAILURE;
+    }
     std::ifstream input(argv[1], std::ios::binary);
     const std::string recorded{std::istreambuf_iterator<char>(input), {}};
     const fs::path folder = fs::absolute(fs::path(argv[1]).stem());

@@ -66,7 +66,7 @@ struct Form {
     QImage Picture() { return widget.grab().toImage(); }
     /// The signals since the last call.
     std::string Signals() {
-        const std::string text = signals_.join(", ").toStdString();
+        std::string text = signals_.join(", ").toStdString();
         signals_.clear();
         return text;
     }
