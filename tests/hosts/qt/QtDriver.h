@@ -125,7 +125,8 @@ class QtDriver final : public HostDriver {
             {16, Qt::Key_Shift}, {17, Qt::Key_Control}, {18, Qt::Key_Alt},  {37, Qt::Key_Left},
             {38, Qt::Key_Up},    {39, Qt::Key_Right},   {40, Qt::Key_Down}, {65, Qt::Key_A}};
         // The event adds or takes away what its own key does to the state before it.
-        const Integer own = code >= 16 && code <= 18 ? static_cast<Integer>(1 << (code - 16)) : 0;
+        const bool isModifier = code >= 16 && code <= 18;
+        const int own = isModifier ? 1 << (code - 16) : 0;
         QKeyEvent event(type, code == 0 ? 0 : keys.at(code),
                         Modifiers(static_cast<Integer>(shift ^ own)), text);
         QApplication::sendEvent(&widget_, &event);
