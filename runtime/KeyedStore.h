@@ -28,21 +28,27 @@ class KeyedStore {
 
     Long Count() const { return static_cast<Long>(nodes_.size() - holes_); }
 
-    void Append(std::string_view key, Pointer item) {
+    // These three return false, and change nothing, when the key is already present.
+
+    [[nodiscard]] bool TryAppend(std::string_view key, const Pointer& item) {
         if (holes_ > nodes_.size() / 2) CloseHoles();
-        Insert(nodes_.size(), key, std::move(item));
+        return TryInsert(nodes_.size(), key, item);
     }
 
     /// Inserts the entry directly after `position`; position 0 is the front.
-    void InsertAfter(Long position, std::string_view key, Pointer item) {
+    [[nodiscard]] bool TryInsertAfter(Long position, std::string_view key, const Pointer& item) {
         if (position < 0 || position > Count()) Raise(ErrorNumber::SubscriptOutOfRange);
         CloseHoles();
-        Insert(static_cast<std::size_t>(position), key, std::move(item));
+        return TryInsert(static_cast<std::size_t>(position), key, item);
     }
 
     /// Inserts so that the entry takes the place of the one at `position`.
-    void InsertBefore(Long position, std::string_view key, Pointer item) {
-        Insert(IndexOf(position), key, std::move(item));
+    [[nodiscard]] bool TryInsertBefore(Long position, std::string_view key, const Pointer& item) {
+        return TryInsert(IndexOf(position), key, item);
+    }
+
+    void InsertAfter(Long position, std::string_view key, const Pointer& item) {
+        if (!TryInsertAfter(position, key, item)) Raise(ErrorNumber::DuplicateKey);
     }
 
     const Pointer& Item(Long position) const { return nodes_[IndexOf(position)]->item; }
@@ -142,23 +148,24 @@ class KeyedStore {
     Iterator end() const { return CloseHoles(), Iterator(nodes_.end()); }
 
   private:
-    void Insert(std::size_t index, std::string_view key, Pointer item) {
-        auto node = std::make_unique<Node>(Node{String(key), std::move(item)});
-        AddKey(*node);
+    bool TryInsert(std::size_t index, std::string_view key, const Pointer& item) {
+        auto node = std::make_unique<Node>(Node{String(key), item});
+        if (!TryAddKey(*node)) return false;
         nodes_.insert(nodes_.begin() + static_cast<std::ptrdiff_t>(index), std::move(node));
         NumberFrom(index);
+        return true;
     }
 
     /// Takes in the key of an entry to come. A short list has no hash, its keys are searched one by
     /// one. The hash looks into the nodes, which never move.
-    void AddKey(Node& added) {
+    bool TryAddKey(Node& added) {
         if (byKey_.empty()) {
-            if (SearchNode(added.key)) Raise(ErrorNumber::DuplicateKey);
-            if (nodes_.size() < kSearched) return;
+            if (SearchNode(added.key)) return false;
+            if (nodes_.size() < kSearched) return true;
             for (const auto& node : nodes_)
                 if (node) byKey_.emplace(node->key, node.get());
         }
-        if (!byKey_.try_emplace(added.key, &added).second) Raise(ErrorNumber::DuplicateKey);
+        return byKey_.try_emplace(added.key, &added).second;
     }
 
     void NumberFrom(std::size_t index) const {

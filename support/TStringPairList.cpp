@@ -21,13 +21,8 @@ std::shared_ptr<TStringPair> TStringPairList::Add(std::shared_ptr<TStringPair> p
         if (!pair) Raise(ErrorNumber::ObjectNotSet);
         // Callers rely on the place being chosen before a pair of the same name is removed.
         const Long count = Count();
-        try {
-            Insert(pair, afterIndex, count);
-        } catch (const RuntimeError& error) {
-            if (error.Number() != static_cast<Long>(ErrorNumber::DuplicateKey)) throw;
+        while (!TryInsert(pair, afterIndex, count))
             pairs_.Remove(pair->Name());
-            Insert(pair, afterIndex, count);
-        }
     } catch (const RuntimeError& error) {
         ShowError(error, "TStringPairList.Add()");
         return nullptr;
@@ -36,11 +31,11 @@ std::shared_ptr<TStringPair> TStringPairList::Add(std::shared_ptr<TStringPair> p
     return pair;
 }
 
-void TStringPairList::Insert(const std::shared_ptr<TStringPair>& pair, Integer afterIndex,
-                             Long count) {
-    if (count < 1 || afterIndex == 0) return pairs_.Append(pair->Name(), pair);
-    if (afterIndex < 1) return pairs_.InsertBefore(1, pair->Name(), pair);
-    pairs_.InsertAfter(afterIndex, pair->Name(), pair);
+bool TStringPairList::TryInsert(const std::shared_ptr<TStringPair>& pair, Integer afterIndex,
+                                Long count) {
+    if (count < 1 || afterIndex == 0) return pairs_.TryAppend(pair->Name(), pair);
+    if (afterIndex < 1) return pairs_.TryInsertBefore(1, pair->Name(), pair);
+    return pairs_.TryInsertAfter(afterIndex, pair->Name(), pair);
 }
 
 std::shared_ptr<TStringPair> TStringPairList::Pair(Long position) const {

@@ -82,7 +82,7 @@ class TStringPairList {
     std::vector<String> VariableNames() const;
 
   private:
-    void Insert(const std::shared_ptr<TStringPair>& pair, Integer afterIndex, Long count);
+    bool TryInsert(const std::shared_ptr<TStringPair>& pair, Integer afterIndex, Long count);
 
     KeyedStore<TStringPair> pairs_;
 };

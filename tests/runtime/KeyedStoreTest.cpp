@@ -30,7 +30,7 @@ TEST(KeyedStore, KeepsItsOrderThroughRandomChanges) {
             store.InsertAfter(place, key, std::make_shared<int>(step));
             keys.insert(keys.begin() + place, key);
         } else {
-            store.Append(key, std::make_shared<int>(step));
+            ASSERT_TRUE(store.TryAppend(key, std::make_shared<int>(step)));
             keys.push_back(key);
         }
         ASSERT_EQ(store.Count(), static_cast<Long>(keys.size()));
