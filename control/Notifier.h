@@ -96,8 +96,8 @@ class Notifier final : public HostSite {
 
   private:
     struct Pending {
-        std::optional<std::pair<Single, Single>> size;
         Rect area;
+        std::optional<std::pair<Single, Single>> size;
         Boolean everything = false;
         Boolean panel = false;
         Boolean dataButton = false;

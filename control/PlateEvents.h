@@ -18,6 +18,7 @@ class PlateEvents {
     /// Calls `event` on every observer.
     template <class Event>
     void Raise(Event event) {
+        if (observers_.empty()) return;
         const Raising raising(*this);
         const std::size_t present = observers_.size();
         for (std::size_t i = 0; i < present; ++i)

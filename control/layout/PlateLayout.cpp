@@ -5,6 +5,7 @@
 #include "runtime/Rounding.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zorvane {
 
@@ -24,7 +25,6 @@ void PlateLayout::PlaceWells(Boolean fullReset) {
     if (subWells > 0) legends_.Anchor(*definition_, scale_);
     RetireElements();
     PlaceSubWells();
-    ShowShapes();
     CentreFrames();
 }
 
@@ -68,12 +68,9 @@ void PlateLayout::FitScaleToControl() {
 void PlateLayout::RetireElements() {
     surface_.ResizeWells(static_cast<std::size_t>(std::max<Integer>(wells_.Total(), 0)));
     wells_.Release();
-    for (Shape& rim : surface_.WellRim)
-        rim.visible = false;
-    for (Shape& bottom : surface_.WellBottom)
-        bottom.visible = false;
-    for (Label& text : surface_.WellText)
-        text.visible = false;
+    // The elements of well 0 exist even without wells.
+    surface_.WellRim[0].visible = surface_.WellBottom[0].visible = false;
+    surface_.WellText[0].visible = false;
     for (Label& legend : surface_.lblWell)
         legend.visible = false;
 }
@@ -155,24 +152,13 @@ void PlateLayout::PlaceWell(const SubWellDrawing& drawing, std::size_t well, Sin
                     static_cast<Single>(drawing.textWidth),
                     static_cast<Single>(drawing.textHeight)};
     }
-    if (fullReset_) ResetWell(well);
-}
-
-void PlateLayout::ResetWell(std::size_t well) {
-    surface_.WellRim[well].fill = elements_.defaultRim;
-    surface_.WellBottom[well].fill = elements_.defaultBottom;
-    surface_.WellText[well].caption.clear();
-    Boolean& selected = wells_[static_cast<Integer>(well)].Selected;
-    if (selected) notifier_.SelectionChanged();
-    selected = false;
-}
-
-void PlateLayout::ShowShapes() {
-    if (wells_.Total() < 1) return;
-    for (Shape& rim : surface_.WellRim)
-        rim.visible = true;
-    for (Shape& bottom : surface_.WellBottom)
-        bottom.visible = true;
+    rim.visible = bottom.visible = true;
+    if (!fullReset_) return;
+    rim.fill = elements_.defaultRim;
+    bottom.fill = elements_.defaultBottom;
+    text.caption.clear();
+    if (std::exchange(wells_[static_cast<Integer>(well)].Selected, false))
+        notifier_.SelectionChanged();
 }
 
 void PlateLayout::CentreFrames() {

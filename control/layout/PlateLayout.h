@@ -52,8 +52,6 @@ class PlateLayout {
     void PlaceGrid(const SubWellDrawing& drawing, Integer position);
     void PlaceRow(const SubWellDrawing& drawing, Single y, std::size_t first);
     void PlaceWell(const SubWellDrawing& drawing, std::size_t well, Single x, Single y);
-    void ResetWell(std::size_t well);
-    void ShowShapes();
     void CentreFrames();
 
     PlateFields& fields_;
