@@ -26,7 +26,7 @@ floor(drawing control)
 set(standard_library_only ${folders})
 floor(library platetext)
 floor(welldata control)
-floor(hosts/qt drawing platform/sqlite)
+floor(hosts/qt drawing platform/memory platform/sqlite)
 floor(apps/plate drawing library platecheck welldata platform/memory platform/sqlite)
 floor(apps/viewer hosts/qt library welldata)
 

@@ -63,8 +63,11 @@ function(zorvane_floor name)
         set(FLOOR_FOLDERS ${name})
     endif()
     add_library(zorvane_${name} STATIC ${FLOOR_SOURCES})
-    # A host may link them into a plug-in.
-    set_target_properties(zorvane_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    # A host may link them into a plug-in, and shared libraries hand out only what is marked for it.
+    set_target_properties(zorvane_${name} PROPERTIES
+        POSITION_INDEPENDENT_CODE ON
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON)
     add_library(zorvane::${name} ALIAS zorvane_${name})
     foreach(folder IN LISTS FLOOR_FOLDERS)
         zorvane_include_root(zorvane_${name} ${folder})

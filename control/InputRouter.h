@@ -1,6 +1,7 @@
 #pragma once
 
 #include "control/Plate.h"
+#include "runtime/Export.h"
 
 #include <cstdint>
 #include <functional>
@@ -15,7 +16,7 @@ namespace zorvane {
 /// button that has no number there is 0 where it is pressed or released, and any bit of its own
 /// among the buttons that are held. Failures are the host's to report: every call of the control
 /// goes through its Attempt.
-class InputRouter {
+class ZORVANE_EXPORT InputRouter {
   public:
     enum class Part : std::uint8_t {
         None,

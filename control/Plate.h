@@ -7,6 +7,7 @@
 #include "model/cmPlate.h"
 #include "platform/HostSite.h"
 #include "platform/PropertyStore.h"
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <memory>
@@ -21,7 +22,7 @@ namespace zorvane {
 /// are drawing units (twips, 1440 an inch). Every failure is a RuntimeError.
 ///
 /// Every call is one operation: the host is told once, at its end, what has changed.
-class Plate : public PlateFields {
+class ZORVANE_EXPORT Plate : public PlateFields {
   public:
     /// Starts the control up: its outline drawer exists and its library is the default one, but no
     /// plate is loaded. The site must outlive the control.

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 namespace zorvane {
 
 /// Hears the events of a Plate and what changes in it; each call's default does nothing. X and Y
 /// are drawing units in the plate area; buttons and shift keys add up as in PlateTypes.h.
-class PlateObserver {
+class ZORVANE_EXPORT PlateObserver {
   public:
     virtual ~PlateObserver() = default;
 

@@ -3,6 +3,7 @@
 #include "control/Elements.h"
 #include "control/panel/PanelElements.h"
 #include "platform/HostSite.h"
+#include "runtime/Export.h"
 #include "runtime/Geometry.h"
 #include "runtime/Types.h"
 
@@ -27,9 +28,9 @@ struct PaintRun {
 
 /// A size or position on the surface, computed in double and stored once; error 6 when it does not
 /// fit 16 bits.
-Single OnSurface(Double value);
+ZORVANE_EXPORT Single OnSurface(Double value);
 
-struct Surface {
+struct ZORVANE_EXPORT Surface {
     Surface();
 
     Frame fraPlate;

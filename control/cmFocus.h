@@ -2,6 +2,7 @@
 
 #include "platform/DrawingContext.h"
 #include "platform/HostSite.h"
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 namespace zorvane {
@@ -12,7 +13,7 @@ namespace zorvane {
 /// While enabled and visible, exactly one copy of the tracked rectangle is on the window. Usual
 /// order: hwnd, Enabled True, DragStart at the press, RectangleVisible True and DragPosition as the
 /// pointer moves, RectangleVisible False at the end; Refresh after each repaint of the window.
-class cmFocus {
+class ZORVANE_EXPORT cmFocus {
   public:
     explicit cmFocus(HostSite& site);
     /// Deletes the pen and releases a context still held.

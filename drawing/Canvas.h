@@ -2,6 +2,7 @@
 
 #include "control/Surface.h"
 #include "drawing/Palette.h"
+#include "runtime/Export.h"
 #include "runtime/Geometry.h"
 #include "runtime/Types.h"
 
@@ -42,7 +43,7 @@ constexpr Rect CentredSquare(const Rect& box) {
 
 /// Where a control is painted. All lengths are drawing units in the control's coordinates; nothing
 /// that is handed over outlives the call. Later calls paint over earlier ones.
-class Canvas {
+class ZORVANE_EXPORT Canvas {
   public:
     virtual ~Canvas() = default;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <array>
@@ -22,7 +23,7 @@ inline constexpr Rgb kWhite{255, 255, 255};
 
 /// What the system colours of the desktop look like, by index; fixed, light colours unless a host
 /// fills in those of its desktop.
-struct SystemPalette {
+struct ZORVANE_EXPORT SystemPalette {
     static constexpr std::size_t kColors = 31;
 
     SystemPalette();
@@ -31,9 +32,9 @@ struct SystemPalette {
 };
 
 /// The colour to paint for one of the control. Unknown system colours are black.
-Rgb Resolve(Long color, const SystemPalette& palette);
+ZORVANE_EXPORT Rgb Resolve(Long color, const SystemPalette& palette);
 
 /// `text`, or black or white where that would be hard to read on `back`.
-Rgb ReadableOn(Rgb back, Rgb text);
+ZORVANE_EXPORT Rgb ReadableOn(Rgb back, Rgb text);
 
 } // namespace zorvane

@@ -3,6 +3,7 @@
 #include "control/Surface.h"
 #include "drawing/Canvas.h"
 #include "drawing/Palette.h"
+#include "runtime/Export.h"
 
 #include <cstdint>
 
@@ -15,7 +16,7 @@ enum class DataButton : std::uint8_t { Painted, Native };
 /// background, the plate area with its wells, legends and selection box, the details panel's frame
 /// and the button that opens it, except for hosts that show a real one. Visits no well outside of
 /// the clip and allocates nothing for wells without a caption.
-void PaintControl(const Surface& surface, const SystemPalette& palette, Canvas& canvas,
-                  DataButton button = DataButton::Painted);
+ZORVANE_EXPORT void PaintControl(const Surface& surface, const SystemPalette& palette,
+                                 Canvas& canvas, DataButton button = DataButton::Painted);
 
 } // namespace zorvane

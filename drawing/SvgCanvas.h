@@ -1,6 +1,7 @@
 #pragma once
 
 #include "drawing/Canvas.h"
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <string_view>
@@ -22,7 +23,7 @@ struct SvgPage {
 /// Writes what is painted as an SVG picture whose unit is the drawing unit. Groups become <g>
 /// elements with their names as ids, those without content are left out; a group states the colours
 /// of its first element, so that equal wells take a few bytes each.
-class SvgCanvas final : public Canvas {
+class ZORVANE_EXPORT SvgCanvas final : public Canvas {
   public:
     explicit SvgCanvas(const SvgPage& page);
 

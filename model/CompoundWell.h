@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/WellDetails.h"
+#include "runtime/Export.h"
 #include "runtime/KeyedStore.h"
 #include "runtime/Types.h"
 
@@ -13,7 +14,7 @@ namespace zorvane {
 /// so a change made through Item changes the layout.
 ///
 /// Errors: 457 for a name already present, 5 for an unknown name, 9 for a position out of range.
-class CompoundWell {
+class ZORVANE_EXPORT CompoundWell {
   public:
     using Pointer = std::shared_ptr<WellDetails>;
 

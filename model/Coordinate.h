@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <array>
@@ -9,7 +10,7 @@
 namespace zorvane {
 
 /// A point with up to four components X, Y, Z and V, each of which knows whether it has been set.
-class Coordinate {
+class ZORVANE_EXPORT Coordinate {
   public:
     /// A component, or 0 when it has not been set.
     Single X() const { return WhenSet(0); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <string_view>
@@ -9,7 +10,7 @@ namespace zorvane {
 /// The geometry and volumes of one sub-well: one named cavity that every well position of a plate
 /// has. Lengths are millimetres; positions are relative to the well position's reference point.
 /// Nothing is checked: values are kept as they are given.
-class WellDetails {
+class ZORVANE_EXPORT WellDetails {
   public:
     /// The name of the sub-well inside its well position.
     const String& WellName() const { return wellName_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <array>
@@ -32,6 +33,6 @@ constexpr const WellStyle* FindWellStyle(Long code) {
 }
 
 /// The code of the style with this name in any letter case, if there is one.
-std::optional<Long> WellStyleCode(std::string_view name);
+ZORVANE_EXPORT std::optional<Long> WellStyleCode(std::string_view name);
 
 } // namespace zorvane

@@ -3,6 +3,7 @@
 #include "model/CompoundWell.h"
 #include "model/Coordinate.h"
 #include "model/WellDetails.h"
+#include "runtime/Export.h"
 #include "runtime/TextFile.h"
 #include "runtime/Types.h"
 #include "support/TStringPairList.h"
@@ -26,7 +27,7 @@ inline constexpr const char* kNoValue = "\x1B";
 /// in Properties, which is what the definition's text is written from. Rows, columns and indices
 /// count from 0; their arithmetic is 16-bit and fails with 6 on overflow. Positions of sub-wells
 /// count from 1. Failures are RuntimeErrors and leave the changes made before them in place.
-class cmPlate {
+class ZORVANE_EXPORT cmPlate {
   public:
     cmPlate();
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platetext/ReadResult.h"
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <vector>
@@ -29,6 +30,6 @@ struct LibraryListing {
 
 /// Reads a library by the rules of the look-up. Errors of TextFile::OpenInput when the file cannot
 /// be opened.
-LibraryListing ListLibrary(const String& fileName);
+ZORVANE_EXPORT LibraryListing ListLibrary(const String& fileName);
 
 } // namespace zorvane

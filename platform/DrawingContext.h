@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 namespace zorvane {
@@ -16,7 +17,7 @@ inline constexpr Long kNotXorPenMode = 10; ///< SetROP2: not (pen xor screen)
 /// With a black dotted pen in not-xor mode a figure inverts the pixels under its dots and leaves
 /// everything else untouched, so drawing it twice restores the window. A repaint of the window
 /// wipes what was drawn.
-class DrawingContext {
+class ZORVANE_EXPORT DrawingContext {
   public:
     using Handle = Long;
 

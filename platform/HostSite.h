@@ -3,6 +3,7 @@
 #include "platform/DrawingContext.h"
 #include "platform/InputBox.h"
 #include "platform/PopupMenu.h"
+#include "runtime/Export.h"
 #include "runtime/Geometry.h"
 #include "runtime/Types.h"
 
@@ -18,7 +19,7 @@ enum class PointerShape : Integer { Standard = 0, MoveArrows = 5, Custom = 99 };
 /// Whatever a call of the control or an input changes, Resize, Repaint, PanelChanged and
 /// DataButtonChanged each come once at its end, in this order, and once more before it raises an
 /// event, asks the operator or draws an outline.
-class HostSite : public InputBox, public PopupMenu {
+class ZORVANE_EXPORT HostSite : public InputBox, public PopupMenu {
   public:
     /// What is shown in this area has changed; paint it when convenient. The area lives for the
     /// call.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 namespace zorvane {
@@ -12,7 +13,7 @@ struct Question {
 };
 
 /// Asks the operator for a line of text.
-class InputBox {
+class ZORVANE_EXPORT InputBox {
   public:
     virtual ~InputBox() = default;
 

@@ -2,6 +2,7 @@
 
 #include "platform/DrawingContext.h"
 #include "platform/Outline.h"
+#include "runtime/Export.h"
 #include "runtime/Geometry.h"
 
 #include <cstddef>
@@ -22,7 +23,7 @@ namespace zorvane {
 /// its own; any other pen draws them all. Pens are black and one pixel wide. Outlines are drawn in
 /// not-xor mode only; in another mode, or with a context that is none, nothing is drawn. A pen
 /// that is deleted keeps drawing where it is selected.
-class InvertingOverlay final : public DrawingContext {
+class ZORVANE_EXPORT InvertingOverlay final : public DrawingContext {
   public:
     InvertingOverlay() = default;
     InvertingOverlay(Long width, Long height) { Resize(width, height); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 namespace zorvane {
@@ -14,7 +15,7 @@ struct Message {
 };
 
 /// Shows messages to the operator.
-class MessageDisplay {
+class ZORVANE_EXPORT MessageDisplay {
   public:
     virtual ~MessageDisplay() = default;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <array>
@@ -44,11 +45,11 @@ struct PixelRun {
 
 /// The outline of a box that is not empty, clockwise from its left top corner. Together the runs
 /// hold each pixel once; some are empty when the box is one pixel wide or high.
-std::array<PixelRun, 4> RectangleRuns(const PixelBox& box);
+ZORVANE_EXPORT std::array<PixelRun, 4> RectangleRuns(const PixelBox& box);
 
 /// The outline of the ellipse that fills a box that is not empty: its pixels are those of the
 /// filled ellipse that touch the outside with one of their sides.
-class EllipseOutline {
+class ZORVANE_EXPORT EllipseOutline {
   public:
     explicit EllipseOutline(const PixelBox& box);
 

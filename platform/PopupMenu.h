@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <vector>
@@ -13,7 +14,7 @@ struct MenuEntry {
 };
 
 /// Shows a menu at the pointer.
-class PopupMenu {
+class ZORVANE_EXPORT PopupMenu {
   public:
     virtual ~PopupMenu() = default;
 

@@ -3,11 +3,12 @@
 #include "platform/MessageDisplay.h"
 #include "platform/Registry.h"
 #include "platform/Screen.h"
+#include "runtime/Export.h"
 
 namespace zorvane {
 
 /// What the process offers to every control in it.
-class Process {
+class ZORVANE_EXPORT Process {
   public:
     virtual ~Process() = default;
     virtual MessageDisplay& Messages() = 0;
@@ -18,15 +19,15 @@ class Process {
 /// The current process: the one installed last or, where there is none, the default one, which
 /// initially writes messages to standard error, has a screen of 96 dots an inch and an empty
 /// registry.
-Process& CurrentProcess();
+ZORVANE_EXPORT Process& CurrentProcess();
 
 /// Replaces the default process for the rest of the program, which the new one must outlive. An
 /// installed process stays current whatever the default is.
-void DefaultProcess(Process& process);
+ZORVANE_EXPORT void DefaultProcess(Process& process);
 
 /// Makes a process the current one for as long as this object lives, then restores the previous
 /// one.
-class InstalledProcess {
+class ZORVANE_EXPORT InstalledProcess {
   public:
     explicit InstalledProcess(Process& process);
     ~InstalledProcess();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <variant>
@@ -11,7 +12,7 @@ using PropertyValue = std::variant<Boolean, Long, Single, String>;
 
 /// The host's design-time store of one control: typed values under names. Used only inside the
 /// calls that restore and save a control; keys and values live for the duration of each call.
-class PropertyStore {
+class ZORVANE_EXPORT PropertyStore {
   public:
     virtual ~PropertyStore() = default;
 

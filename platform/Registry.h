@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <string_view>
@@ -40,7 +41,7 @@ inline constexpr Long kAllAccess = 0xF003F;
 /// letter case, and values are enumerated in the order first written. Data cross this interface as
 /// bytes. Each call answers a RegistryResult and raises nothing. Handles are opaque; 0 is none. The
 /// defaults are those of a platform without a registry: nothing is found, nothing can be created.
-class Registry {
+class ZORVANE_EXPORT Registry {
   public:
     using Handle = std::int64_t;
 

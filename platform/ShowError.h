@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/RuntimeError.h"
 
 #include <string_view>
@@ -8,6 +9,6 @@ namespace zorvane {
 
 /// Shows a failure that the operator must see, with the number and description of the error;
 /// `where` names the procedure that handles it.
-void ShowError(const RuntimeError& error, std::string_view where);
+ZORVANE_EXPORT void ShowError(const RuntimeError& error, std::string_view where);
 
 } // namespace zorvane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <exception>
@@ -34,7 +35,7 @@ enum class ErrorNumber : Long {
 };
 
 /// The one exception type that leaves a public member: a number, where it arose, and a description.
-class RuntimeError : public std::exception {
+class ZORVANE_EXPORT RuntimeError : public std::exception {
   public:
     RuntimeError(Long number, String source, String description);
 
@@ -51,14 +52,15 @@ class RuntimeError : public std::exception {
 };
 
 /// The fixed text of a number of the platform; "Unknown error" for one of ours.
-const char* DescriptionOf(ErrorNumber number) noexcept;
+ZORVANE_EXPORT const char* DescriptionOf(ErrorNumber number) noexcept;
 
 /// What a RuntimeError names as its source unless the place that raises it has a name.
 inline constexpr const char* kErrorSource = "Zorvane";
 
 /// Raises a RuntimeError with the number's fixed text.
-[[noreturn]] void Raise(ErrorNumber number);
+[[noreturn]] ZORVANE_EXPORT void Raise(ErrorNumber number);
 /// Raises a RuntimeError with a text of its own.
-[[noreturn]] void Raise(ErrorNumber number, String description, String source = kErrorSource);
+[[noreturn]] ZORVANE_EXPORT void Raise(ErrorNumber number, String description,
+                                       String source = kErrorSource);
 
 } // namespace zorvane

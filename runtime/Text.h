@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <cstddef>
@@ -28,11 +29,11 @@ constexpr std::string_view TrimEnd(std::string_view text) {
 }
 constexpr std::string_view Trim(std::string_view text) { return TrimEnd(TrimStart(text)); }
 
-String UpperText(std::string_view text);
-String LowerText(std::string_view text);
+ZORVANE_EXPORT String UpperText(std::string_view text);
+ZORVANE_EXPORT String LowerText(std::string_view text);
 
 /// True when the text begins with the prefix, ignoring letter case.
-bool StartsWithNoCase(std::string_view text, std::string_view prefix);
+ZORVANE_EXPORT bool StartsWithNoCase(std::string_view text, std::string_view prefix);
 
 /// True when both texts are the same, ignoring letter case.
 inline bool EqualNoCase(std::string_view a, std::string_view b) {
@@ -41,7 +42,7 @@ inline bool EqualNoCase(std::string_view a, std::string_view b) {
 }
 
 /// A hash that agrees with EqualNoCase.
-std::size_t HashNoCase(std::string_view text);
+ZORVANE_EXPORT std::size_t HashNoCase(std::string_view text);
 
 /// The first character of a text: its code (a code point, or the byte where the text is not valid
 /// UTF-8) and how many bytes it takes. An empty text gives {0, 0}.
@@ -50,19 +51,19 @@ struct CharacterAt {
     std::size_t bytes = 0;
     bool valid = true; ///< false when the byte is not part of a valid UTF-8 sequence
 };
-CharacterAt FirstCharacter(std::string_view text);
+ZORVANE_EXPORT CharacterAt FirstCharacter(std::string_view text);
 
 /// True when the whole text is valid UTF-8.
-bool IsUtf8(std::string_view text);
+ZORVANE_EXPORT bool IsUtf8(std::string_view text);
 
 /// The number of characters in a text.
-Long CharacterCount(std::string_view text);
+ZORVANE_EXPORT Long CharacterCount(std::string_view text);
 
 /// A code point as UTF-8.
-String EncodeUtf8(Long code);
+ZORVANE_EXPORT String EncodeUtf8(Long code);
 
 /// The text with every byte that is not valid UTF-8, and every control character that XML and
 /// terminals do not take, replaced by U+FFFD. For showing, never for storing.
-String PrintableUtf8(std::string_view text);
+ZORVANE_EXPORT String PrintableUtf8(std::string_view text);
 
 } // namespace zorvane

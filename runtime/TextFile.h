@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <cstdint>
@@ -15,7 +16,7 @@ namespace zorvane {
 ///
 /// Every operation raises error 52 when the file is not open in the way it needs, and 57 when the
 /// device fails.
-class TextFile {
+class ZORVANE_EXPORT TextFile {
   public:
     /// A place in an input file to seek back to: the number of bytes before it.
     using FilePosition = std::int64_t;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Text.h"
 #include "runtime/Types.h"
 
@@ -10,18 +11,18 @@
 namespace zorvane {
 
 /// The text with every TAB, LF and CR replaced by a space.
-String BlankControlChars(std::string_view s);
+ZORVANE_EXPORT String BlankControlChars(std::string_view s);
 
 /// The text without the blanks at its start, at its end, or at both.
-String TrimLeadingBlanks(std::string_view s);
-String TrimTrailingBlanks(std::string_view s);
-String TrimBlanks(std::string_view s);
+ZORVANE_EXPORT String TrimLeadingBlanks(std::string_view s);
+ZORVANE_EXPORT String TrimTrailingBlanks(std::string_view s);
+ZORVANE_EXPORT String TrimBlanks(std::string_view s);
 
 /// Takes the next word off the text: skips leading blanks and returns what precedes the first
 /// space or TAB. The text keeps the rest from that delimiter on; without one it becomes empty.
-String NextWord(String& s);
+ZORVANE_EXPORT String NextWord(String& s);
 /// NextWord in upper case.
-String NextWordUpper(String& s);
+ZORVANE_EXPORT String NextWordUpper(String& s);
 /// NextWord on a view, for readers that store few of the words they take.
 constexpr std::string_view NextWord(std::string_view& s) {
     s = TrimStart(s);
@@ -35,9 +36,9 @@ constexpr std::string_view NextWord(std::string_view& s) {
 
 /// The text between a pair of marks. An opening bracket ( < [ { is closed by its counterpart;
 /// any other mark goes on both sides and is doubled inside.
-String QuoteText(std::string_view s, std::string_view q);
+ZORVANE_EXPORT String QuoteText(std::string_view s, std::string_view q);
 
 /// The first letter in upper case, the others in lower case.
-String Capitalize(std::string_view s);
+ZORVANE_EXPORT String Capitalize(std::string_view s);
 
 } // namespace zorvane

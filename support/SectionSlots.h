@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Types.h"
 
@@ -8,7 +9,7 @@
 namespace zorvane {
 
 /// A text for each depth of sections, counted from 0. Error 9 beyond the 17 that there are.
-class SectionSlots {
+class ZORVANE_EXPORT SectionSlots {
   public:
     const String& At(Long depth) const { return texts_[IndexOf(depth)]; }
     String& At(Long depth) { return texts_[IndexOf(depth)]; }

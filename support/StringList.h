@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 #include "support/StringEntry.h"
 
@@ -11,7 +12,7 @@ namespace zorvane {
 
 /// An ordered list of texts that forgets its oldest ones when their total length goes beyond a cap,
 /// such as a log that is shown. Positions count from 1; error 9 for one outside 1 to Count().
-class StringList {
+class ZORVANE_EXPORT StringList {
   public:
     /// Set by everything that modifies the list; the owner clears it.
     Boolean Changed = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/KeyedStore.h"
 #include "runtime/Types.h"
 #include "support/TStringPair.h"
@@ -16,7 +17,7 @@ class XMLFile;
 /// without regard to case. Positions count from 1.
 ///
 /// Errors of look-ups: 5 for an absent name, 9 for a position outside 1 to Count().
-class TStringPairList {
+class ZORVANE_EXPORT TStringPairList {
   public:
     /// What Value gives for an absent name when ErrorOnFail is false.
     static constexpr const char* kMissingValue = "\x1B\x1B";

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/Export.h"
 #include "runtime/TextFile.h"
 #include "runtime/Types.h"
 #include "support/SectionSlots.h"
@@ -17,7 +18,7 @@ namespace zorvane {
 /// Errors: 1050 the file cannot be opened for reading or lacks its header line; 1051 it ends early
 /// or cannot be read; 1053 it cannot be written; 1055 a tag is not as it must be; 9 for sections
 /// nested deeper than 17, and for what asks about a section when none is open.
-class XMLFile {
+class ZORVANE_EXPORT XMLFile {
   public:
     /// The name that an inner section would take the place of: at first empty, then the section
     /// closed last at that level. Callers that want the innermost open section keep its name. Empty

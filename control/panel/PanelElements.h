@@ -2,6 +2,7 @@
 
 #include "control/Elements.h"
 #include "platform/PopupMenu.h"
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <cstddef>
@@ -32,7 +33,7 @@ inline constexpr Integer kGeneralPage = 2;
 /// other elements to ControlPic, which cuts off what reaches out of it. From back to front: the
 /// rows in their order, then txtComment, which hides them all, then the style controls, which hide
 /// row 0, then the Apply button.
-struct PanelElements {
+struct ZORVANE_EXPORT PanelElements {
     PanelElements();
 
     Rect ControlPic{120, 270, 2595, 4245};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "control/Plate.h"
+#include "runtime/Export.h"
 
 #include <QColor>
 #include <QString>
@@ -14,7 +15,7 @@ namespace zorvane {
 ///
 /// A widget on which no plate has been loaded by the time it is first shown loads the plate
 /// "No_Plate" from its library, when that library exists.
-class PlateWidget : public QWidget {
+class ZORVANE_EXPORT PlateWidget : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString fileName READ fileName WRITE setFileName)
     Q_PROPERTY(bool fixedSize READ fixedSize WRITE setFixedSize)

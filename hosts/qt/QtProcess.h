@@ -1,7 +1,9 @@
 #pragma once
 
+#include "hosts/qt/registry/DesktopRegistry.h"
 #include "platform/Process.h"
-#include "platform/sqlite/SqliteRegistry.h"
+
+#include <memory>
 
 namespace zorvane {
 
@@ -18,7 +20,7 @@ class QtScreen final : public Screen {
     Single TwipsPerPixelY() const override { return TwipsPerPixelX(); }
 };
 
-/// What the desktop offers to every control; the registry is kept in files.
+/// What the desktop offers to every control.
 class QtProcess final : public Process {
   public:
     /// Makes the desktop serve controls wherever no process has been installed. Every PlateWidget
@@ -27,12 +29,12 @@ class QtProcess final : public Process {
 
     MessageDisplay& Messages() override { return messages_; }
     Screen& TheScreen() override { return screen_; }
-    Registry& TheRegistry() override { return registry_; }
+    Registry& TheRegistry() override { return *registry_; }
 
   private:
     QtMessages messages_;
     QtScreen screen_;
-    SqliteRegistry registry_;
+    std::unique_ptr<Registry> registry_ = NewDesktopRegistry();
 };
 
 } // namespace zorvane

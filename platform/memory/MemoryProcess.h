@@ -2,6 +2,7 @@
 
 #include "platform/Process.h"
 #include "platform/memory/MemoryRegistry.h"
+#include "runtime/Export.h"
 
 #include <functional>
 #include <vector>
@@ -10,7 +11,7 @@ namespace zorvane {
 
 /// Message boxes kept in memory. A message that nobody expected is handed to `onUnexpected`, which
 /// a test sets to fail.
-class MemoryMessages final : public MessageDisplay {
+class ZORVANE_EXPORT MemoryMessages final : public MessageDisplay {
   public:
     void Show(const Message& message) override;
 

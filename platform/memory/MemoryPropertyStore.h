@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/PropertyStore.h"
+#include "runtime/Export.h"
 
 #include <utility>
 #include <vector>
@@ -8,7 +9,7 @@
 namespace zorvane {
 
 /// A property store in memory that remembers the order of writing.
-class MemoryPropertyStore final : public PropertyStore {
+class ZORVANE_EXPORT MemoryPropertyStore final : public PropertyStore {
   public:
     PropertyValue Read(const String& key, const PropertyValue& fallback) const override;
     void Write(const String& key, const PropertyValue& value,

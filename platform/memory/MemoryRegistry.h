@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Registry.h"
+#include "runtime/Export.h"
 
 #include <map>
 #include <memory>
@@ -10,7 +11,7 @@
 namespace zorvane {
 
 /// A registry held in memory. Key paths and value names ignore letter case.
-class MemoryRegistry final : public Registry {
+class ZORVANE_EXPORT MemoryRegistry final : public Registry {
   public:
     MemoryRegistry();
     ~MemoryRegistry() override;

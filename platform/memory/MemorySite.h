@@ -2,6 +2,7 @@
 
 #include "platform/HostSite.h"
 #include "platform/InvertingOverlay.h"
+#include "runtime/Export.h"
 
 #include <deque>
 #include <vector>
@@ -11,7 +12,7 @@ namespace zorvane {
 /// The host of one control without a desktop, for tests and headless programs. It remembers what
 /// the control asks for and answers questions and menus from a script; with the script at its end
 /// the operator cancels.
-class MemorySite final : public HostSite {
+class ZORVANE_EXPORT MemorySite final : public HostSite {
   public:
     /// The size of a freshly placed control.
     explicit MemorySite(Single width = 6600, Single height = 4800) { SetSize(width, height); }
