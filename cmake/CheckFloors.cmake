@@ -27,6 +27,7 @@ set(standard_library_only ${folders})
 floor(library platetext)
 floor(welldata control)
 floor(hosts/qt drawing platform/memory platform/sqlite)
+floor(hosts/designer hosts/qt)
 floor(apps/plate drawing library platecheck welldata platform/memory platform/sqlite)
 floor(apps/viewer hosts/qt library welldata)
 

@@ -8,6 +8,8 @@ if(BUILD_SHARED_LIBS AND WIN32)
     message(FATAL_ERROR "The libraries are static on Windows.")
 endif()
 
+set(ZORVANE_QT_PLUGINS "${CMAKE_INSTALL_LIBDIR}/qt6/plugins" CACHE STRING
+    "Where plug-ins for Qt are installed, below the prefix")
 set(zorvane_package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/Zorvane")
 configure_file(cmake/package/version.h.in include/zorvane/version.h @ONLY)
 

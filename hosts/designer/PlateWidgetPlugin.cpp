@@ -1,0 +1,72 @@
+#include "hosts/designer/PlateWidgetPlugin.h"
+
+#include "hosts/designer/PlateTaskMenu.h"
+#include "hosts/qt/PlateWidget.h"
+
+#include <QDesignerFormEditorInterface>
+#include <QExtensionManager>
+#include <QIcon>
+#include <QPainter>
+#include <QPixmap>
+
+namespace zorvane {
+
+QString PlateWidgetPlugin::name() const { return QStringLiteral("zorvane::PlateWidget"); }
+
+QString PlateWidgetPlugin::group() const { return QStringLiteral("Zorvane"); }
+
+QString PlateWidgetPlugin::toolTip() const { return tr("Crystallization micro-plate"); }
+
+QString PlateWidgetPlugin::whatsThis() const {
+    return tr("Shows a plate from a plate library, in which an operator can pick wells.");
+}
+
+QString PlateWidgetPlugin::includeFile() const { return QStringLiteral("hosts/qt/PlateWidget.h"); }
+
+/// A plate of two rows and three columns, one well of which is selected.
+QIcon PlateWidgetPlugin::icon() const {
+    constexpr int side = 48;
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0x40, 0x48, 0x50), 2));
+    painter.setBrush(QColor(0xF4, 0xF6, 0xF8));
+    painter.drawRoundedRect(2, 8, side - 4, side - 16, 4, 4);
+    for (int well = 0; well < 6; ++well) {
+        painter.setBrush(well == 4 ? QColor(0x2F, 0x7F, 0xD6) : QColor(0xE0, 0xE0, 0xE0));
+        painter.drawEllipse(6 + well % 3 * 13, 12 + well / 3 * 13, 10, 10);
+    }
+    return pixmap;
+}
+
+QString PlateWidgetPlugin::domXml() const {
+    return QStringLiteral(R"(<ui language="c++" displayname="Plate">
+ <widget class="zorvane::PlateWidget" name="plate">
+  <property name="geometry"><rect><x>0</x><y>0</y><width>440</width><height>320</height></rect></property>
+ </widget>
+ <customwidgets>
+  <customwidget>
+   <class>zorvane::PlateWidget</class>
+   <extends>QWidget</extends>
+   <header>hosts/qt/PlateWidget.h</header>
+   <propertyspecifications>
+    <stringpropertyspecification name="fileName" type="singleline" notr="true"/>
+    <stringpropertyspecification name="plateName" type="singleline" notr="true"/>
+   </propertyspecifications>
+  </customwidget>
+ </customwidgets>
+</ui>)");
+}
+
+QWidget* PlateWidgetPlugin::createWidget(QWidget* parent) { return new PlateWidget(parent); }
+
+void PlateWidgetPlugin::initialize(QDesignerFormEditorInterface* editor) {
+    if (initialized_) return;
+    initialized_ = true;
+    if (QExtensionManager* const manager = editor ? editor->extensionManager() : nullptr)
+        manager->registerExtensions(new PlateTaskMenuFactory(manager),
+                                    Q_TYPEID(QDesignerTaskMenuExtension));
+}
+
+} // namespace zorvane
