@@ -56,7 +56,7 @@ endfunction()
 
 set(failures "")
 file(GLOB_RECURSE files RELATIVE "${SOURCE_DIR}" "${SOURCE_DIR}/*.h" "${SOURCE_DIR}/*.cpp")
-list(FILTER files EXCLUDE REGEX "^(build|tests|benchmarks|fuzz)/")
+list(FILTER files EXCLUDE REGEX "^(build|tests|benchmarks|examples|fuzz)/")
 foreach(file IN LISTS files)
     folder_of(${file} folder)
     if(NOT folder)

@@ -20,14 +20,19 @@ std::string TextCanvas::Text() const {
     return text;
 }
 
-// A rim is painted before its bottom and is larger: brackets, with room for the bottom between
-// them.
+// The rim of a well is painted first; its bottom goes between the brackets.
 void TextCanvas::DrawShape(const ShapeStyle& style, const Rect& box) {
     const bool plain = style.fill == Resolve(kDefaultWellColor, SystemPalette());
-    if (box.width >= 3 * cellWidth_)
+    if (box.width >= 3 * cellWidth_ && !IsBetweenBrackets(box))
         Write(box, plain ? "( )" : "[ ]");
     else
         Write(box, plain ? "o" : "#");
+}
+
+bool TextCanvas::IsBetweenBrackets(const Rect& box) {
+    const std::string* const line = LineOf(box);
+    const std::size_t before = ColumnOf(box) - 1;
+    return line && before < line->size() && ((*line)[before] == '(' || (*line)[before] == '[');
 }
 
 void TextCanvas::DrawText(const TextStyle&, const Rect& box, std::string_view text) {
@@ -38,14 +43,21 @@ Single TextCanvas::TextWidth(std::string_view text, Boolean) const {
     return cellWidth_ * static_cast<Single>(text.size());
 }
 
+std::size_t TextCanvas::ColumnOf(const Rect& box) const {
+    const Single column = (box.left + box.width / 2 - area_.left) / cellWidth_;
+    return static_cast<std::size_t>(std::max<Single>(column, 0));
+}
+
+std::string* TextCanvas::LineOf(const Rect& box) {
+    const Single line = (box.top + box.height / 2 - area_.top) / cellHeight_;
+    const bool shown = line >= 0 && line < static_cast<Single>(lines_.size());
+    return shown ? &lines_[static_cast<std::size_t>(line)] : nullptr;
+}
+
 void TextCanvas::Write(const Rect& box, std::string_view text) {
-    const Single x = (box.left + box.width / 2 - area_.left) / cellWidth_;
-    const Single y = (box.top + box.height / 2 - area_.top) / cellHeight_;
-    if (y < 0 || y >= static_cast<Single>(lines_.size())) return;
-    std::string& line = lines_[static_cast<std::size_t>(y)];
-    const auto first = static_cast<long>(x - static_cast<Single>(text.size() - 1) / 2);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto at = static_cast<std::size_t>(first + static_cast<long>(i)); // huge left of 0
-        if (at < line.size() && text[i] != ' ') line[at] = text[i];
-    }
+    std::string* const line = LineOf(box);
+    if (!line) return;
+    const std::size_t first = ColumnOf(box) - text.size() / 2; // beyond the line left of its start
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if (first + i < line->size() && text[i] != ' ') (*line)[first + i] = text[i];
 }

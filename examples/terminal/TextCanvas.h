@@ -27,7 +27,11 @@ class TextCanvas final : public zorvane::Canvas {
     void EndClip() override {}
 
   private:
-    /// Writes characters whose middle is at a point of the control.
+    std::size_t ColumnOf(const zorvane::Rect& box) const;
+    /// The line through the middle of a box, or null outside of the picture.
+    std::string* LineOf(const zorvane::Rect& box);
+    bool IsBetweenBrackets(const zorvane::Rect& box);
+    /// Writes a text over the middle of a box; blanks leave what is there.
     void Write(const zorvane::Rect& box, std::string_view text);
 
     zorvane::Rect area_;

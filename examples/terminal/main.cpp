@@ -99,6 +99,8 @@ int main(int argc, char** argv) {
     Narrator narrator(plate);
     plate.AddObserver(narrator);
     if (!plate.SetPlate(argv[2], argv[1])) return 1;
+    plate.DrawingScale(plate.DrawingScale()); // the frame takes the fitted size at the next layout
+    plate.MouseEnabled(true);
     plate.SetWell(0, 0);
     Show(plate, site);
 

@@ -1,0 +1,72 @@
+# Fails when the installed package cannot be used: its headers compile with nothing but what is
+# installed, the examples build, and what they print and draw is as expected.
+# Run as: cmake -DSOURCE_DIR=<tree> -DBUILD_DIR=<build> -DCXX=<compiler> -DWITH_QT=<bool> -P CheckPackage.cmake
+cmake_minimum_required(VERSION 3.25)
+
+set(work "${BUILD_DIR}/package-test")
+set(prefix "${work}/prefix")
+set(programs "${work}/examples")
+set(library "${SOURCE_DIR}/data/Plates(Tarvo).Dat")
+set(expected "${CMAKE_CURRENT_LIST_DIR}/expected")
+file(REMOVE_RECURSE "${work}")
+file(MAKE_DIRECTORY "${work}")
+set(ENV{QT_QPA_PLATFORM} offscreen)
+
+# run(<what> <command>...): what it writes is in `output`.
+macro(run what)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output
+        WORKING_DIRECTORY "${work}")
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "${what} failed (${result}):\n${output}")
+    endif()
+endmacro()
+
+# expect_file(<actual> <expected>): both are text.
+function(expect_file actual expected)
+    execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files --ignore-eol "${actual}" "${expected}"
+        RESULT_VARIABLE differs)
+    if(differs)
+        message(SEND_ERROR "${actual} is not as in ${expected}")
+    endif()
+endfunction()
+
+run("Installing" ${CMAKE_COMMAND} --install "${BUILD_DIR}" --prefix "${prefix}")
+
+# One file that includes every installed header, the widget's only where it is installed.
+file(GLOB_RECURSE headers RELATIVE "${prefix}/include/zorvane" "${prefix}/include/zorvane/*.h")
+list(FILTER headers EXCLUDE REGEX "^hosts/")
+list(TRANSFORM headers REPLACE "(.+)" "#include <\\1>\n" OUTPUT_VARIABLE includes)
+file(WRITE "${work}/headers.cpp" ${includes})
+run("Compiling the installed headers"
+    ${CXX} -std=c++20 -fsyntax-only -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
+"-I${prefix}/include/zorvane" "${work}/headers.cpp")
+
+# The same through pkg-config, where there is one.
+find_program(pkg_config pkg-config)
+if(pkg_config)
+    set(ENV{PKG_CONFIG_PATH} "${prefix}/lib/pkgconfig")
+    run("pkg-config" ${pkg_config} --cflags --libs zorvane-core)
+    separate_arguments(flags UNIX_COMMAND "${output}")
+    run("Building with pkg-config" ${CXX} -std=c++20 "${SOURCE_DIR}/examples/terminal/main.cpp"
+        "${SOURCE_DIR}/examples/terminal/TextCanvas.cpp" ${flags} -o "${work}/terminal")
+endif()
+
+run("Configuring the examples" ${CMAKE_COMMAND} -S "${SOURCE_DIR}/examples" -B "${programs}" -G Ninja
+    -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_BUILD_TYPE=Release
+    "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror")
+run("Building the examples" ${CMAKE_COMMAND} --build "${programs}")
+
+execute_process(COMMAND "${programs}/terminal/plate_in_a_terminal" "${library}" Batch_24
+    INPUT_FILE "${expected}/terminal-commands.txt" OUTPUT_FILE "${work}/terminal.txt")
+expect_file("${work}/terminal.txt" "${expected}/terminal.txt")
+
+if(WITH_QT)
+    foreach(example widget/plate_in_a_window form/plate_on_a_form)
+        run("${example}" "${programs}/${example}" "${library}" Sitting_96x3 "${work}/picture.png")
+        file(SIZE "${work}/picture.png" size)
+        # An empty window of this size takes about 2,000 bytes.
+        if(size LESS 5000)
+            message(SEND_ERROR "${example} drew no plate: ${size} bytes")
+        endif()
+    endforeach()
+endif()
