@@ -37,6 +37,7 @@ function(zorvane_library name)
         LINKER_LANGUAGE CXX
         OUTPUT_NAME ${library}
         EXPORT_NAME ${name}
+        INSTALL_RPATH "\$ORIGIN" # the Qt library finds the core in any prefix
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 

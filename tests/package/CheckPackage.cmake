@@ -1,10 +1,11 @@
 # Fails when the installed package cannot be used: its headers compile with nothing but what is
 # installed, the examples build, and what they print and draw is as expected.
-# Run as: cmake -DSOURCE_DIR=<tree> -DBUILD_DIR=<build> -DCXX=<compiler> -DWITH_QT=<bool> -P CheckPackage.cmake
+# Run as: cmake -DSOURCE_DIR=<tree> -DBUILD_DIR=<build> -DCXX=<compiler> -DWITH_QT=<bool> [-DPREFIX=<folder>]
+#         -P CheckPackage.cmake
+# Without a prefix in which it is already installed, the build is installed to one of the test's own.
 cmake_minimum_required(VERSION 3.25)
 
 set(work "${BUILD_DIR}/package-test")
-set(prefix "${work}/prefix")
 set(programs "${work}/examples")
 set(library "${SOURCE_DIR}/data/Plates(Tarvo).Dat")
 set(expected "${CMAKE_CURRENT_LIST_DIR}/expected")
@@ -30,7 +31,12 @@ function(expect_file actual expected)
     endif()
 endfunction()
 
-run("Installing" ${CMAKE_COMMAND} --install "${BUILD_DIR}" --prefix "${prefix}")
+if(PREFIX)
+    set(prefix "${PREFIX}")
+else()
+    set(prefix "${work}/prefix")
+    run("Installing" ${CMAKE_COMMAND} --install "${BUILD_DIR}" --prefix "${prefix}")
+endif()
 
 # One file that includes every installed header, the widget's only where it is installed.
 file(GLOB_RECURSE headers RELATIVE "${prefix}/include/zorvane" "${prefix}/include/zorvane/*.h")
@@ -44,7 +50,9 @@ run("Compiling the installed headers"
 # The same through pkg-config, where there is one.
 find_program(pkg_config pkg-config)
 if(pkg_config)
-    set(ENV{PKG_CONFIG_PATH} "${prefix}/lib/pkgconfig")
+    file(GLOB_RECURSE module "${prefix}/lib/*zorvane-core.pc")
+    get_filename_component(modules "${module}" DIRECTORY)
+    set(ENV{PKG_CONFIG_PATH} "${modules}")
     run("pkg-config" ${pkg_config} --cflags --libs zorvane-core)
     separate_arguments(flags UNIX_COMMAND "${output}")
     run("Building with pkg-config" ${CXX} -std=c++20 "${SOURCE_DIR}/examples/terminal/main.cpp"
@@ -55,6 +63,13 @@ run("Configuring the examples" ${CMAKE_COMMAND} -S "${SOURCE_DIR}/examples" -B "
     -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_BUILD_TYPE=Release
     "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror")
 run("Building the examples" ${CMAKE_COMMAND} --build "${programs}")
+
+# Shared libraries of a system's folder, unpacked elsewhere.
+file(GLOB_RECURSE library_file "${prefix}/lib/*zorvane-core.*")
+list(FILTER library_file EXCLUDE REGEX "pkgconfig")
+list(GET library_file 0 library_file)
+get_filename_component(library_folder "${library_file}" DIRECTORY)
+set(ENV{LD_LIBRARY_PATH} "${library_folder}")
 
 execute_process(COMMAND "${programs}/terminal/plate_in_a_terminal" "${library}" Batch_24
     INPUT_FILE "${expected}/terminal-commands.txt" OUTPUT_FILE "${work}/terminal.txt")
