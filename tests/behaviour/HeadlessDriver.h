@@ -4,6 +4,7 @@
 #include "behaviour/Snapshot.h"
 #include "control/InputRouter.h"
 #include "platform/memory/MemorySite.h"
+#include "runtime/NumberText.h"
 
 #include <utility>
 
@@ -33,7 +34,7 @@ class HeadlessDriver final : public HostDriver, private InputRouter::Host {
 
     void PressDataButton() override { plate_.DataButtonPressed(); }
     void ChoosePage(Integer position) override { plate_.PageChosen(position); }
-    void TypeComment(const String& text) override { plate_.CommentTyped(text); }
+    void TypeComment(const String& text) override { plate_.CommentTyped(text + "\r\n"); }
     void TypeRow(Integer row, const String& text) override { plate_.RowTyped(row, text); }
     void ChooseStyle(Integer position) override { plate_.StyleChosen(position); }
     void PressApply() override {
@@ -57,7 +58,10 @@ class HeadlessDriver final : public HostDriver, private InputRouter::Host {
         return {{"outline", site_.overlay.Any() ? "shown" : ""},
                 {"tooltip", plate_.Elements().plateToolTip},
                 {"pointer", std::to_string(static_cast<int>(plate_.Elements().platePointer))},
-                {"focus", std::exchange(site_.focusRequests, 0) > 0 ? "taken" : ""},
+                {"focus", std::exchange(site_.focusRequests, 0) > 0             ? "taken"
+                          : std::exchange(site_.dataButtonFocusRequests, 0) > 0 ? "data button"
+                                                                                : ""},
+                {"size", SingleText(site_.Width()) + "x" + SingleText(site_.Height())},
                 {"asked", asked}};
     }
 

@@ -25,6 +25,7 @@ class HostDriver {
 
     virtual void PressDataButton() = 0;
     virtual void ChoosePage(Integer position) = 0;
+    /// Types a line instead of what is there.
     virtual void TypeComment(const String& text) = 0;
     virtual void TypeRow(Integer row, const String& text) = 0;
     virtual void ChooseStyle(Integer position) = 0;
@@ -35,7 +36,8 @@ class HostDriver {
     virtual void RunCommand(SubWellCommand command, const String& answer) = 0;
 
     /// What the window shows by name: whether there is an outline, the tooltip, the pointer,
-    /// whether it has taken the focus since the last call, and the question asked last.
+    /// what has taken the focus since the last call, its size in drawing units, and the question
+    /// asked last.
     virtual std::map<String, String> Window() = 0;
     /// Names, of the window or the control, that this host cannot show as others do.
     virtual std::set<String> Unseen() const { return {}; }
