@@ -49,7 +49,7 @@ TEST_F(InputRouterTest, AnAnsweredPressIsTheHosts) {
     router.Move(kLeftButton, kAltKey, 950, 500);
     router.Release(kLeftButton, 0, kAltKey, 500, 500);
     EXPECT_EQ(events.Take(), "");
-    EXPECT_EQ(Selected(), "0:");
+    EXPECT_EQ(plate.NSelected(), 0);
 }
 
 TEST_F(InputRouterTest, ThePanelLiesOverThePlateArea) {
@@ -60,7 +60,7 @@ TEST_F(InputRouterTest, ThePanelLiesOverThePlateArea) {
     router.Press(kLeftButton, 0, 500, 500);
     router.Release(kLeftButton, 0, 0, 500, 500);
     EXPECT_EQ(events.Take(), "Click");
-    EXPECT_EQ(Selected(), "0:");
+    EXPECT_EQ(plate.NSelected(), 0);
 }
 
 } // namespace

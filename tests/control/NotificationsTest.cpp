@@ -8,14 +8,10 @@ namespace {
 /// Writes down what has changed, with the events.
 class ChangeLog final : public EventLog {
   public:
-    void PlateChanged() override { lines.push_back("plate"); }
-    void CurrentWellChanged(Integer wellNo) override {
-        lines.push_back("well " + std::to_string(wellNo));
-    }
-    void SelectionChanged() override { lines.push_back("selection"); }
-    void WellDataChanged(Integer first, Integer last) override {
-        lines.push_back("data " + std::to_string(first) + "-" + std::to_string(last));
-    }
+    void PlateChanged() override { Add("plate"); }
+    void CurrentWellChanged(Integer wellNo) override { Add("well", wellNo); }
+    void SelectionChanged() override { Add("selection"); }
+    void WellDataChanged(Integer first, Integer last) override { Add("data", first, last); }
 };
 
 class NotificationsTest : public ControlTest {
@@ -56,14 +52,14 @@ TEST_F(NotificationsTest, EveryOperationIsHandedOutOnce) {
         {"apply", [](Plate& p) { p.ApplyPressed(); }, "2 2 1 0", "plate, ApplyChanges"},
         {"rotate", [](Plate& p) { p.MenuChosen(mnuRotate90); }, "1 1 1 0", "plate"},
         {"array", [](Plate& p) { p.SetArray(1, 1, 3, 2, "", foTopLeftVertical, 255); }, "1 0 0 0",
-         "well 27, selection, data 13-27"},
-        {"fill", [](Plate& p) { p.FillArray(255, "#"); }, "1 0 0 0", "well 27, data 13-27"},
-        {"all", [](Plate& p) { p.SelectAll(true); }, "1 0 0 0", "selection, data 0-95"},
+         "well 27, selection, data 13 27"},
+        {"fill", [](Plate& p) { p.FillArray(255, "#"); }, "1 0 0 0", "well 27, data 13 27"},
+        {"all", [](Plate& p) { p.SelectAll(true); }, "1 0 0 0", "selection, data 0 95"},
         {"none", [](Plate& p) { p.ClearSelection(); }, "0 0 0 0", ""},
-        {"fill one", [](Plate& p) { p.WellFill(95, 255); }, "1 0 0 0", "data 95-95"},
+        {"fill one", [](Plate& p) { p.WellFill(95, 255); }, "1 0 0 0", "data 95 95"},
         {"rim of none", [](Plate& p) { p.RimFill(96, 255); }, "0 0 0 0", ""},
-        {"text", [](Plate& p) { p.Text(7, "x"); }, "0 0 0 0", "data 7-7"},
-        {"clear", [](Plate& p) { p.ClearSubWells("Drop1"); }, "1 0 0 0", "data 0-95"},
+        {"text", [](Plate& p) { p.Text(7, "x"); }, "0 0 0 0", "data 7 7"},
+        {"clear", [](Plate& p) { p.ClearSubWells("Drop1"); }, "1 0 0 0", "data 0 95"},
         {"mark", [](Plate& p) { p.Selected(true); }, "1 1 0 1", ""},
         {"mouse", [](Plate& p) { p.MouseEnabled(false); }, "1 0 0 1", ""},
     };
@@ -109,12 +105,15 @@ TEST_F(NotificationsTest, ALaterOperationOfTheHostInAnEventIsHandedOutInIt) {
     plate.RemoveObserver(answering);
 }
 
-TEST_F(NotificationsTest, NewLegendsTakeThePresentColour) {
-    Load(OneDrop(2, 3));
-    plate.Selected(false);
-    Load(OneDrop(4, 6));
-    for (const Label& legend : Shown().lblWell)
-        EXPECT_EQ(legend.color, kGrayText);
+TEST_F(NotificationsTest, AColourRepaintsTheElementThatHasIt) {
+    plate.HorizontalCentred = true;
+    plate.PlateClassText(OneDrop());
+    site.repaints.clear();
+    plate.WellColor("255");
+    plate.RimColor("255");
+    plate.SelectWell(95, true);
+    EXPECT_EQ(site.repaints,
+              (std::vector{Bottom(0).Moved(300, 0), Rim(0).Moved(300, 0), Rim(95).Moved(300, 0)}));
 }
 
 } // namespace
