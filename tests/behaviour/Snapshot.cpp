@@ -151,8 +151,10 @@ void AddPanel(std::map<String, String>& all, const Plate& plate) {
             rows += "[" + panel.lblAnnotation[row].caption + "=" + panel.txtData[row].text + "]";
     }
     all["rows"] = rows;
-    all["first row"] =
-        TextOf(panel.txtData[0].box) + (panel.txtData[0].rightAligned ? " right" : "");
+    const TextBox& firstRow = panel.txtData[0];
+    all["first row"] = !firstRow.visible
+                           ? "hidden"
+                           : TextOf(firstRow.box) + (firstRow.rightAligned ? " right" : "");
     all["style"] = !panel.cmbStyle.visible
                        ? String("hidden")
                        : std::to_string(panel.cmbStyle.position) + " " +
