@@ -1,5 +1,4 @@
 #include "drawing/Palette.h"
-#include "RecordingCanvas.h"
 
 #include "control/PlateTypes.h"
 
