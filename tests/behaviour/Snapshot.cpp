@@ -76,7 +76,8 @@ String WellBoxes(const Surface& surface, Integer wellNo) {
     const auto at = static_cast<std::size_t>(wellNo);
     if (wellNo < 0 || !surface.WellRim[at].visible || !surface.WellBottom[at].visible) return {};
     const Label& text = surface.WellText[at];
-    return TextOf(surface.WellRim[at].box) + " / " + TextOf(surface.WellBottom[at].box) + " / " +
+    return TextOf(surface.WellRim[at].box) + " / " + TextOf(surface.WellBottom[at].box) +
+           (surface.WellBottom[at].border ? " / " : " borderless / ") +
            (text.visible ? TextOf(text.box) : "hidden");
 }
 
@@ -147,8 +148,11 @@ void AddPanel(std::map<String, String>& all, const Plate& plate) {
     all["comment"] = panel.txtComment.visible ? OnOneLine(panel.txtComment.text) : String("hidden");
     String rows;
     for (std::size_t row = 0; row < panel.txtData.size(); ++row) {
-        if (panel.lblAnnotation[row].visible)
-            rows += "[" + panel.lblAnnotation[row].caption + "=" + panel.txtData[row].text + "]";
+        const RowCaption& caption = panel.lblAnnotation[row];
+        const TextBox& box = panel.txtData[row];
+        if (!caption.visible && !box.visible) continue;
+        rows += "[" + (caption.visible ? caption.caption : "hidden") + "=" +
+                (box.visible ? box.text : "hidden") + "]";
     }
     all["rows"] = rows;
     const TextBox& firstRow = panel.txtData[0];

@@ -51,6 +51,7 @@ TEST_F(PersistenceTest, ANewControlAndAnEmptyStoreGiveTheSameControl) {
     placed.SelectedColor = 1;
     placed.HorizontalCentred = true;
     placed.FileName = "elsewhere";
+    placed.DefaultRimColor(1);
     placed.DefaultWellColor(1);
     placed.InitialProperties();
     Plate restored(site);
