@@ -68,7 +68,10 @@ TEST(Plate, FailsWithoutACurrentSubWellOrAProperty) {
     EXPECT_EQ(NumberRaisedBy([&] { plate.Depth(1); }), 5);
     EXPECT_EQ(NumberRaisedBy([&] { plate.RimHeight(); }), 5);
     EXPECT_EQ(NumberRaisedBy([&] { plate.GetProperty("DEPTH"); }), 91);
+    plate.Rotate(90); // unlike Rotate90
     EXPECT_EQ(plate.Properties.Count(), 0);
+    plate.CompoundWell(nullptr);
+    EXPECT_EQ(plate.CompoundWell()->Count(), 0);
 }
 
 TEST(Plate, ComputesIndices) {

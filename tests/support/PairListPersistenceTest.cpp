@@ -2,8 +2,6 @@
 #include "support/TStringPairList.h"
 #include "support/XMLFile.h"
 
-#include <random>
-
 namespace zorvane {
 namespace {
 
@@ -77,50 +75,6 @@ TEST(PairListXML, ReadsFieldsInAnyCaseAndKeepsTheQuotesOfTheName) {
     Read(list, file.Path());
     EXPECT_EQ(list.Name, "\"Tags\"");
     EXPECT_EQ(PairsOf(list), (Pairs{{"A", "1"}, {"b", "2"}}));
-}
-
-/// A text as it is read back: its line breaks are gone, with the blanks around them.
-String Joined(std::string_view text) {
-    String joined;
-    bool first = true;
-    for (;;) {
-        const std::size_t end = text.find_first_of("\r\n");
-        std::string_view line = text.substr(0, end);
-        if (!first) line = TrimStart(line);
-        joined += end == text.npos ? line : TrimEnd(line);
-        if (end == text.npos) return joined;
-        text.remove_prefix(end + 1);
-        first = false;
-    }
-}
-
-String RandomText(std::mt19937& random, std::string_view letters) {
-    String text(random() % 9, ' ');
-    for (char& c : text)
-        c = letters[random() % letters.size()];
-    return text;
-}
-
-TEST(PairListXML, ReadsRandomListsBack) {
-    using namespace std::string_view_literals;
-    std::mt19937 random(20);
-    for (int round = 0; round < 300; ++round) {
-        TStringPairList list;
-        Pairs expected;
-        for (int i = 0; i < 12; ++i) {
-            const String name = std::to_string(i) + RandomText(random, "aB <&;/'\t\x01\xFF"sv);
-            const String value = i % 4 == 0
-                                     ? UpperText(name)
-                                     : RandomText(random, "aB \r\n<>&\";'=/\t\x00\x1B\xC3"sv);
-            Fill(list, {{name, value}});
-            if (!EqualNoCase(name, value)) expected.emplace_back(name, Joined(value));
-        }
-        const TempFile file;
-        Write(list, file.Path());
-        TStringPairList read;
-        Read(read, file.Path());
-        ASSERT_EQ(PairsOf(read), expected) << file.Bytes();
-    }
 }
 
 class PairListRegistry : public testing::Test {

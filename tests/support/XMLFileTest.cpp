@@ -10,24 +10,19 @@ namespace {
 
 constexpr const char* kHeader = "<?xml version=\"1.0\"?>\r\n";
 
-/// What an action raises, as "number source: description" with FILE for the file's name; empty for
-/// nothing.
-String Raised(const String& fileName, const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        String text =
-            std::to_string(error.Number()) + " " + error.Source() + ": " + error.Description();
-        const std::size_t at = text.find(fileName);
-        return at == text.npos ? text : text.replace(at, fileName.size(), "FILE");
-    }
-    return {};
-}
-
 /// An XML file on the bytes of a temporary one.
 struct Opened {
     explicit Opened(std::string_view bytes = {}) : file(bytes) { x.FileName(file.Path()); }
-    String Fails(const std::function<void()>& action) const { return Raised(file.Path(), action); }
+
+    /// What an action raises, as "number source: description" with FILE for the file's name; empty
+    /// for nothing.
+    String Fails(const std::function<void()>& action) const {
+        const RaisedError error = RaisedBy(action);
+        if (error.number == 0) return {};
+        String text = std::to_string(error.number) + " " + error.source + ": " + error.description;
+        const std::size_t at = text.find(file.Path());
+        return at == text.npos ? text : text.replace(at, file.Path().size(), "FILE");
+    }
 
     TempFile file;
     XMLFile x;
@@ -113,30 +108,22 @@ TEST(XMLFile, ReadsSectionsAttributesAndData) {
                   "noise <A Index=\"1\" x   = \"y z\"   Image=\"&lt;\" plain  >\r\n"
                   "\t first \r\n\r\n  second&amp;  \n third <B/><C/><B>last</B></A><D/ E=\"f\">");
     XMLFile& x = opened.x;
-    EXPECT_EQ(HeaderOf(x), "A");
-    EXPECT_EQ(x.SectionIndex(), "1");
-    EXPECT_EQ(x.SectionImage(), "&lt;");
-    EXPECT_EQ(x.SectionTagName(), "plain");
-    EXPECT_EQ(x.SectionTagValue(), "y z");
-    EXPECT_EQ(x.ReadXMLData(), "firstsecond&third ");
+    const auto next = [&x] {
+        const String header = HeaderOf(x) + " " + x.SectionTagName() + "=" + x.SectionTagValue();
+        const String data = x.ReadXMLData();
+        return header + " " + data + (x.SectionComplete() ? "; ended " : "; in ") + x.Section();
+    };
+    EXPECT_EQ(next(), "A plain=y z firstsecond&third ; in ");
+    EXPECT_EQ(x.SectionIndex() + x.SectionImage(), "1&lt;");
+    EXPECT_EQ(next(), "B = ; ended B"); // the one closed last
+    EXPECT_EQ(x.ReadXMLData(), "");
     EXPECT_FALSE(x.SectionComplete());
-    EXPECT_EQ(x.Section(), "");
-    for (const char* const name : {"B", "C"}) {
-        EXPECT_EQ(HeaderOf(x), name);
-        EXPECT_EQ(x.SectionTagName() + x.SectionTagValue(), "");
-        EXPECT_EQ(x.ReadXMLData(), "");
-        EXPECT_TRUE(x.SectionComplete());
-        EXPECT_EQ(x.Section(), name); // the one closed last
-        EXPECT_EQ(x.ReadXMLData(), "");
-        EXPECT_FALSE(x.SectionComplete());
-    }
-    EXPECT_EQ(HeaderOf(x), "B");
-    EXPECT_EQ(x.ReadXMLData(), "last");
-    EXPECT_EQ(x.SectionIndex(), "1");
+    EXPECT_EQ(next(), "C = ; ended C");
+    EXPECT_EQ(x.ReadXMLData(), "");
+    EXPECT_EQ(next(), "B = last; ended B");
+    EXPECT_EQ(x.SectionIndex(), "1"); // that of A again
     EXPECT_EQ(HeaderOf(x), "/A");
-    EXPECT_EQ(x.Section(), "");
     EXPECT_EQ(HeaderOf(x), "D");
-    EXPECT_EQ(x.SectionIndex() + x.SectionImage(), "");
     EXPECT_EQ(x.SectionTagName() + "=" + x.SectionTagValue(), "E=f");
     EXPECT_EQ(HeaderOf(x), "/D");
 }
@@ -193,26 +180,24 @@ TEST(XMLFile, RaisesTheErrorOfEachBadFile) {
 }
 
 TEST(XMLFile, SaysThatTheFileCannotBeWritten) {
-    XMLFile x;
-    const String path = testing::TempDir() + "missing/a.xml";
-    x.FileName(path);
-    EXPECT_EQ(Raised(path, [&] { x.WriteXMLData("x"); }),
-              "1053 XMLFile: Could not write data to XMLFile <FILE>");
+    Opened opened;
+    XMLFile& x = opened.x;
+    x.FileName(testing::TempDir() + "missing/a.xml");
+    const RaisedError error = RaisedBy([&] { x.WriteXMLData("x"); });
+    EXPECT_EQ(error.description, "Could not write data to XMLFile <" + x.FileName() + ">");
+    EXPECT_EQ(error.number, 1053);
     EXPECT_FALSE(x.IsOpenForWriting());
-    const String full = "/dev/full";
-    if (std::filesystem::exists(full)) {
-        x.FileName(full);
+    if (std::filesystem::exists("/dev/full")) {
+        x.FileName("/dev/full");
         EXPECT_EQ(NumberRaisedBy([&] { x.WriteXMLData(String(1000000, 'x')); }), 1053);
         EXPECT_FALSE(x.IsOpenForWriting());
         x.WriteXMLData("kept back until the file is closed");
-        EXPECT_EQ(Raised(full, [&] { x.CloseXMLFile(); }),
-                  "1053 XMLFile: Could not write data to XMLFile <FILE>");
+        EXPECT_EQ(NumberRaisedBy([&] { x.CloseXMLFile(); }), 1053);
     }
-    const TempFile file;
-    x.FileName(file.Path());
+    x.FileName(opened.file.Path());
     x.WriteXMLData("x");
     x.CloseXMLFile();
-    EXPECT_EQ(file.Bytes(), String(kHeader) + "x\r\n");
+    EXPECT_EQ(opened.file.Bytes(), String(kHeader) + "x\r\n");
 }
 
 TEST(XMLFile, NestsSeventeenSectionsAndEndsNoMoreThanItBegan) {
