@@ -6,7 +6,6 @@
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
-#include <map>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
@@ -153,12 +152,12 @@ class Writer {
         return WIFSIGNALED(status) ? 0 : WEXITSTATUS(status);
     }
 
-    /// The values that are known to be stored, by name.
-    std::vector<std::pair<String, String>> Stored() const {
-        std::vector<std::pair<String, String>> values;
-        for (int number = 0; number <= last_; ++number)
-            values.emplace_back(name_ + std::to_string(number), std::to_string(number));
-        return values;
+    /// Expects every value that is known to be stored.
+    void ExpectStored(SqliteRegistry& registry) const {
+        for (int number = 0; number <= last_; ++number) {
+            const String text = std::to_string(number);
+            ASSERT_EQ(Get(registry, kCurrentUser, name_ + text), text);
+        }
     }
 
   private:
@@ -194,10 +193,8 @@ TEST(SqliteRegistry, ProcessesThatWriteAtOnceLoseNothingWhenOneIsKilled) {
     EXPECT_EQ(other.Kill(), 0);
 
     SqliteRegistry registry({.own = file, .shared = {}});
-    for (const Writer* writer : {&killed, &other}) {
-        for (const auto& [name, text] : writer->Stored())
-            ASSERT_EQ(Get(registry, kCurrentUser, name), text);
-    }
+    killed.ExpectStored(registry);
+    other.ExpectStored(registry);
     EXPECT_EQ(Set(registry, kCurrentUser, "after", "written"), kRegistrySuccess);
     Database database;
     ASSERT_EQ(database.Open(file, false), 0);
@@ -207,26 +204,21 @@ TEST(SqliteRegistry, ProcessesThatWriteAtOnceLoseNothingWhenOneIsKilled) {
 
 TEST(RegistryPlaces, FollowTheDesktopsRules) {
     const String here = std::filesystem::absolute(":memory:").string();
+    const char* const names[] = {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "ZORVANE_REGISTRY"};
     const struct {
-        std::map<const char*, const char*> environment;
+        const char* environment[4];
         const char* own;
         const char* shared;
-    } rows[] = {{{{"HOME", "/home/u"}},
-                 "/home/u/.config/zorvane/registry.sqlite",
-                 "/etc/xdg/zorvane/registry.sqlite"},
-                {{{"HOME", "/home/u"}, {"XDG_CONFIG_HOME", "/c"}, {"XDG_CONFIG_DIRS", "/d:/e"}},
-                 "/c/zorvane/registry.sqlite",
-                 "/d/zorvane/registry.sqlite"},
-                {{{"HOME", "/home/u"}, {"XDG_CONFIG_HOME", "c"}, {"XDG_CONFIG_DIRS", "d:/e"}},
-                 "/home/u/.config/zorvane/registry.sqlite",
-                 "/e/zorvane/registry.sqlite"},
-                {{}, "", "/etc/xdg/zorvane/registry.sqlite"},
-                {{{"HOME", "/home/u"}, {"ZORVANE_REGISTRY", ":memory:"}}, here.c_str(), ""}};
+    } rows[] = {
+        {{"/u"}, "/u/.config/zorvane/registry.sqlite", "/etc/xdg/zorvane/registry.sqlite"},
+        {{"/u", "/c", "/d:/e"}, "/c/zorvane/registry.sqlite", "/d/zorvane/registry.sqlite"},
+        {{"/u", "c", "d:/e"}, "/u/.config/zorvane/registry.sqlite", "/e/zorvane/registry.sqlite"},
+        {{}, "", "/etc/xdg/zorvane/registry.sqlite"},
+        {{"/u", nullptr, nullptr, ":memory:"}, here.c_str(), ""},
+    };
     for (const auto& row : rows) {
-        for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "ZORVANE_REGISTRY"})
-            unsetenv(name);
-        for (const auto& [name, value] : row.environment)
-            setenv(name, value, 1);
+        for (std::size_t i = 0; i < 4; ++i)
+            row.environment[i] ? setenv(names[i], row.environment[i], 1) : unsetenv(names[i]);
         const RegistryPlaces places = PlacesInForce();
         EXPECT_EQ(places.own.value_or(""), row.own);
         EXPECT_EQ(places.shared.value_or(""), row.shared);
