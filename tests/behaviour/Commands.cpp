@@ -28,14 +28,15 @@ class Words {
     Argument Next() {
         String word;
         stream_ >> std::quoted(word);
-        if constexpr (std::is_same_v<Argument, String>)
+        if constexpr (std::is_same_v<Argument, String>) {
             return word == "none" ? kNoValue : word;
-        else if constexpr (std::is_same_v<Argument, Boolean>)
+        } else if constexpr (std::is_same_v<Argument, Boolean>) {
             return word == "on";
-        else if constexpr (std::is_same_v<Argument, Long>)
+        } else if constexpr (std::is_same_v<Argument, Long>) {
             return word == "none" ? kNoColor : ParseLong(word.empty() ? "0" : word);
-        else
+        } else {
             return static_cast<Argument>(LeadingSingle(word));
+        }
     }
 
   private:
@@ -54,10 +55,11 @@ String Given(const Values&... values) {
 
 template <class Class>
 Class& In(HostDriver& host) {
-    if constexpr (std::is_same_v<Class, HostDriver>)
+    if constexpr (std::is_same_v<Class, HostDriver>) {
         return host;
-    else
+    } else {
         return host.Control();
+    }
 }
 
 /// A call of the control, or something that its operator does.

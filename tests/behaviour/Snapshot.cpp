@@ -25,11 +25,13 @@ String Groups(Integer wells, Shown shown) {
     for (const auto& group : groups)
         if (!commonest || group.second.size() > commonest->size()) commonest = &group.second;
     String text, others;
-    for (const auto& [name, members] : groups)
-        if (&members == commonest)
+    for (const auto& [name, members] : groups) {
+        if (&members == commonest) {
             text = name;
-        else
+        } else {
             others += ", " + name + ":" + members;
+        }
+    }
     return text + others;
 }
 
