@@ -29,7 +29,7 @@ String Groups(Integer wells, Shown shown) {
         if (&members == commonest) {
             text = name;
         } else {
-            others += ", " + name + ":" + members;
+            others.append(", ").append(name).append(":").append(members);
         }
     }
     return text + others;
@@ -115,10 +115,11 @@ void AddWells(std::map<String, String>& all, const Plate& plate) {
 
 /// Whatever has happened, a host can paint: every run of the paint order has its elements.
 void ExpectPaintable(const Surface& surface) {
-    for (const PaintRun& run : surface.paintOrder)
-        EXPECT_LE(static_cast<std::size_t>(run.first + run.count), run.kind == PaintRun::Kind::Wells
-                                                                       ? surface.WellRim.size()
-                                                                       : surface.lblWell.size());
+    for (const PaintRun& run : surface.paintOrder) {
+        const bool wells = run.kind == PaintRun::Kind::Wells;
+        EXPECT_LE(static_cast<std::size_t>(run.first + run.count),
+                  wells ? surface.WellRim.size() : surface.lblWell.size());
+    }
 }
 
 void AddPlateArea(std::map<String, String>& all, const Surface& surface) {
