@@ -56,7 +56,7 @@ class HeadlessDriver final : public HostDriver, private InputRouter::Host {
             asked += "[" + question.title + "] " + OnOneLine(question.prompt) + " (" +
                      question.preset + ")";
         return {{"outline", site_.overlay.Any() ? "shown" : ""},
-                {"tooltip", plate_.Elements().plateToolTip},
+                {"tooltip", site_.toolTips.empty() ? String() : site_.toolTips.back()},
                 {"pointer", std::to_string(static_cast<int>(plate_.Elements().platePointer))},
                 {"focus", std::exchange(site_.focusRequests, 0) > 0             ? "taken"
                           : std::exchange(site_.dataButtonFocusRequests, 0) > 0 ? "data button"
