@@ -80,6 +80,7 @@ zorvane_library(Core
         control/PlateObserver.h
         control/PlateTypes.h
         control/Surface.h
+        control/WellNames.h
         control/cmFocus.h
         control/panel/PanelElements.h
         drawing/Canvas.h

@@ -137,7 +137,7 @@ Boolean cmPlate::SetPlate(const String& fileName,
     } catch (const RuntimeError&) {
         failure = "Error trying to read \"" + plateName + "\" from <" + fileName + ">";
     }
-    CurrentProcess().Messages().Show({failure});
+    CurrentMessages().Show({failure});
     return false;
 }
 

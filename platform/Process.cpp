@@ -32,15 +32,22 @@ Process*& Default() {
 }
 
 Process* installed = nullptr;
+thread_local MessageDisplay* taking = nullptr;
 
 } // namespace
 
 Process& CurrentProcess() { return installed ? *installed : *Default(); }
+
+MessageDisplay& CurrentMessages() { return taking ? *taking : CurrentProcess().Messages(); }
 
 void DefaultProcess(Process& process) { Default() = &process; }
 
 InstalledProcess::InstalledProcess(Process& process) : before_(installed) { installed = &process; }
 
 InstalledProcess::~InstalledProcess() { installed = before_; }
+
+TakenMessages::TakenMessages(MessageDisplay& display) : before_(taking) { taking = &display; }
+
+TakenMessages::~TakenMessages() { taking = before_; }
 
 } // namespace zorvane

@@ -21,6 +21,10 @@ class ZORVANE_EXPORT Process {
 /// registry.
 ZORVANE_EXPORT Process& CurrentProcess();
 
+/// Where a message of this thread goes: to the display that took its messages last or, where there
+/// is none, to that of the current process.
+ZORVANE_EXPORT MessageDisplay& CurrentMessages();
+
 /// Replaces the default process for the rest of the program, which the new one must outlive. An
 /// installed process stays current whatever the default is.
 ZORVANE_EXPORT void DefaultProcess(Process& process);
@@ -36,6 +40,18 @@ class ZORVANE_EXPORT InstalledProcess {
 
   private:
     Process* before_;
+};
+
+/// Hands the messages of this thread to a display for as long as this object lives.
+class ZORVANE_EXPORT TakenMessages {
+  public:
+    explicit TakenMessages(MessageDisplay& display);
+    ~TakenMessages();
+    TakenMessages(const TakenMessages&) = delete;
+    TakenMessages& operator=(const TakenMessages&) = delete;
+
+  private:
+    MessageDisplay* before_;
 };
 
 } // namespace zorvane

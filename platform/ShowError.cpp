@@ -7,7 +7,7 @@
 namespace zorvane {
 
 void ShowError(const RuntimeError& error, std::string_view where) {
-    CurrentProcess().Messages().Show(
+    CurrentMessages().Show(
         {"Error number " + std::to_string(error.Number()) + "\r\n" + error.Description(),
          "Error in " + error.Source() + "." + String(where)});
 }

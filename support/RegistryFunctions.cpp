@@ -29,7 +29,7 @@ struct Key {
 };
 
 void ShowFailure(const char* function, const String& what, Long result) {
-    CurrentProcess().Messages().Show({what + "\r\nAPI Error=" + std::to_string(result),
+    CurrentMessages().Show({what + "\r\nAPI Error=" + std::to_string(result),
                                       String("Registry Functions::") + function + "()"});
 }
 

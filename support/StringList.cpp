@@ -47,7 +47,7 @@ void StringList::SaveToFile(const String& fileName) const {
             file.WriteLine("\"" + entry->Text + "\""); // quotes inside stay single
         file.Close();
     } catch (const RuntimeError&) {
-        CurrentProcess().Messages().Show(
+        CurrentMessages().Show(
             {"Problem saving \r\n<" + fileName + ">", "File not saved"});
     }
 }

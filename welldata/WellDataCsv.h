@@ -1,8 +1,8 @@
 #pragma once
 
 #include "control/Plate.h"
+#include "control/WellNames.h"
 #include "runtime/Types.h"
-#include "welldata/WellNames.h"
 
 #include <optional>
 #include <string_view>

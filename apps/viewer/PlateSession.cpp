@@ -31,7 +31,6 @@ void PlateSession::Report() {
 }
 
 void PlateSession::ReadNames() {
-    const Hold hold(*this); // reading them may choose a sub-well
     namesOutdated_ = false;
     const std::vector<String> before = names_.SubWells();
     names_ = WellNames(Control());

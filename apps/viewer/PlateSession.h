@@ -2,9 +2,9 @@
 
 #include "apps/viewer/logic/VolumeColoring.h"
 #include "apps/viewer/logic/WellSnapshot.h"
+#include "control/WellNames.h"
 #include "hosts/qt/PlateWidget.h"
 #include "runtime/RuntimeError.h"
-#include "welldata/WellNames.h"
 
 #include <QObject>
 #include <QString>

@@ -1,9 +1,9 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
 #include "apps/plate/draw/PlatePicture.h"
+#include "control/WellNames.h"
 #include "platform/memory/MemorySite.h"
 #include "runtime/NumberText.h"
-#include "welldata/WellNames.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -54,19 +54,6 @@ String CheckScale(const String& text) {
     return "\"" + text + "\" is not a number greater than 0";
 }
 
-/// The number of a well named by its legend, with the sub-well's name after a full stop.
-Integer WellNamed(const WellNames& names, const String& name) {
-    const std::size_t stop = name.find('.');
-    auto position = names.FindPosition(name);
-    std::optional<Integer> subWell = Integer{1};
-    if (!position && stop != name.npos) {
-        position = names.FindPosition(name.substr(0, stop));
-        subWell = names.FindSubWell(name.substr(stop + 1));
-    }
-    if (!position || !subWell) Fail("the plate has no well " + name);
-    return names.WellNumber(*position, *subWell);
-}
-
 /// One picture in the making: a control without a window.
 class Drawing {
   public:
@@ -85,8 +72,11 @@ class Drawing {
 
     String Picture() {
         const WellNames names(plate_);
-        for (const String& name : options_.selected)
-            plate_.SelectWell(WellNamed(names, name), true);
+        for (const String& name : options_.selected) {
+            const auto well = names.Find(name);
+            if (!well) Fail("the plate has no well " + name);
+            plate_.SelectWell(*well, true);
+        }
         std::optional<ShownWellData> data;
         if (!options_.data.empty()) {
             const String csv = ReadFile(options_.data);

@@ -1,28 +1,27 @@
-#include "welldata/WellNames.h"
+#include "control/WellNames.h"
 
 #include "control/LegendLabels.h"
 #include "runtime/Text.h"
 
+#include <algorithm>
 #include <string>
 
 namespace zorvane {
 
 namespace {
 
-std::vector<String> SubWellNames(Plate& plate) {
-    const Integer chosen = plate.WellIndex() == 0 ? Integer{1} : plate.WellIndex();
+// After a failed load, the plate that is still shown has no definition to name its sub-wells.
+std::vector<String> SubWellNames(const Plate& plate) {
     std::vector<String> names;
-    for (Integer position = 1; position <= plate.SubWellCount; ++position) {
-        plate.WellIndex(position);
-        names.push_back(plate.SubWell());
-    }
-    plate.WellIndex(chosen);
+    for (const auto& subWell : *plate.LoadedDefinition().CompoundWell())
+        names.push_back(subWell->WellName());
+    names.resize(static_cast<std::size_t>(std::max<Integer>(plate.SubWellCount, 0)));
     return names;
 }
 
 } // namespace
 
-WellNames::WellNames(Plate& plate) {
+WellNames::WellNames(const Plate& plate) {
     if (plate.TotalWells() < 1) return;
     for (Integer row = 0; row < plate.Rows; ++row)
         rows_.push_back(RowLegend(plate, row).caption);
@@ -73,9 +72,21 @@ String WellNames::SubWell(Integer wellNo) const {
     return subWells_[static_cast<std::size_t>(wellNo / (Rows() * Cols()))];
 }
 
-String WellNames::Full(Integer wellNo) const {
-    if (subWells_.size() < 2 || !IsWell(wellNo)) return Position(wellNo);
-    return Position(wellNo) + ", " + SubWell(wellNo);
+String WellNames::Joined(Integer wellNo, const char* separator) const {
+    const String subWell = SubWell(wellNo);
+    if (subWells_.size() < 2 || subWell.empty()) return Position(wellNo);
+    return Position(wellNo) + separator + subWell;
+}
+
+// A legend may have full stops, as may the name of a sub-well.
+std::optional<Integer> WellNames::Find(std::string_view name) const {
+    if (const auto position = FindPosition(name)) return position;
+    for (auto stop = name.find('.'); stop != name.npos; stop = name.find('.', stop + 1)) {
+        const auto position = FindPosition(name.substr(0, stop));
+        const auto subWell = FindSubWell(name.substr(stop + 1));
+        if (position && subWell) return WellNumber(*position, *subWell);
+    }
+    return std::nullopt;
 }
 
 std::optional<Integer> WellNames::FindPosition(std::string_view legend) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "control/Plate.h"
+#include "runtime/Export.h"
 #include "runtime/Types.h"
 
 #include <optional>
@@ -12,12 +13,11 @@ namespace zorvane {
 
 /// The names of the wells of the plate that a control shows: positions by their row and column
 /// legends ("B3"), sub-wells by their own names. A plate on which two positions have the same
-/// legend names them by row and column, counted from 1 ("R2C3"). To be made again for each plate.
-class WellNames {
+/// legend names them by row and column, counted from 1 ("R2C3"). To be made again for each layout
+/// of a plate.
+class ZORVANE_EXPORT WellNames {
   public:
-    /// Leaves the control's current well as it is, but chooses the first sub-well where none has
-    /// been chosen yet.
-    explicit WellNames(Plate& plate);
+    explicit WellNames(const Plate& plate);
 
     const std::vector<String>& SubWells() const { return subWells_; }
     Integer Rows() const { return static_cast<Integer>(rows_.size()); }
@@ -26,9 +26,14 @@ class WellNames {
     /// The legend of a well's position; empty for a number that is no well.
     String Position(Integer wellNo) const;
     String SubWell(Integer wellNo) const;
-    /// Both, as "B3, Drop1"; only the position where there is one sub-well.
-    String Full(Integer wellNo) const;
+    /// Both, as Find reads them: "B3.Drop1"; only the position where there is one sub-well.
+    String Name(Integer wellNo) const { return Joined(wellNo, "."); }
+    /// Both, for people to read: "B3, Drop1"; only the position where there is one sub-well.
+    String Full(Integer wellNo) const { return Joined(wellNo, ", "); }
 
+    /// The number of the well with a name, whose letter case counts as little as FindPosition says.
+    /// A position stands for its first sub-well.
+    std::optional<Integer> Find(std::string_view name) const;
     /// The index of a position (row times columns plus column), in any letter case unless the
     /// legends differ by nothing else.
     std::optional<Integer> FindPosition(std::string_view legend) const;
@@ -42,6 +47,7 @@ class WellNames {
 
   private:
     bool IsWell(Integer wellNo) const;
+    String Joined(Integer wellNo, const char* separator) const;
     /// Returns whether every position has a key of its own.
     bool IndexLegends();
     String Legend(Integer row, Integer col) const;
