@@ -142,6 +142,7 @@ if(ZORVANE_BUILD_QT)
         FLOORS qt ${registry_floor}
         HEADERS
             hosts/qt/PlateWidget.h
+            hosts/qt/SettingsStore.h
         USES Zorvane::Core Qt6::Widgets
         USES_PRIVATELY ${registry_library}
         PC_REQUIRES zorvane-core Qt6Widgets

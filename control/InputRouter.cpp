@@ -14,7 +14,7 @@ Boolean Holds(const Frame& frame, Single x, Single y) {
 
 InputRouter::Part InputRouter::PartAt(Single x, Single y) const {
     const Surface& surface = plate_.Elements();
-    if (Holds(surface.fraData, x, y)) return Part::Panel;
+    if (!host_.PanelIsApart() && Holds(surface.fraData, x, y)) return Part::Panel;
     return Holds(surface.fraPlate, x, y) ? Part::PlateArea : Part::Background;
 }
 

@@ -44,6 +44,8 @@ class ZORVANE_EXPORT InputRouter {
         virtual Boolean AnswerPress(Integer /*button*/, Integer /*shift*/, Spot /*at*/) {
             return false;
         }
+        /// Whether the details panel is shown somewhere else and covers nothing of the control.
+        virtual Boolean PanelIsApart() const { return false; }
         /// The control has been told of a button that came up: no outline is left to be shown.
         virtual void GestureEnded() {}
     };

@@ -23,11 +23,12 @@ class Painter {
     Painter(const Surface& surface, const SystemPalette& palette, Canvas& canvas)
         : surface_(surface), palette_(palette), canvas_(canvas), clip_(canvas.Clip()) {}
 
-    void Paint(DataButton button) const {
+    void Paint(Details details) const {
         canvas_.FillRectangle(Color(kButtonFace), clip_);
         PaintPlate();
+        if (details == Details::Native) return;
         PaintFrame(surface_.fraData, "details");
-        if (button == DataButton::Painted) PaintButton(surface_.cmdData);
+        PaintButton(surface_.cmdData);
     }
 
   private:
@@ -159,8 +160,8 @@ class Painter {
 } // namespace
 
 void PaintControl(const Surface& surface, const SystemPalette& palette, Canvas& canvas,
-                  DataButton button) {
-    Painter(surface, palette, canvas).Paint(button);
+                  Details details) {
+    Painter(surface, palette, canvas).Paint(details);
 }
 
 } // namespace zorvane

@@ -83,7 +83,7 @@ void Click(const Plate& plate, InputRouter& router, int row, int column) {
 void Show(const Plate& plate, TerminalSite& site) {
     if (!std::exchange(site.repaint, false)) return;
     TextCanvas canvas({0, 0, site.Width(), site.Height()}, 100);
-    PaintControl(plate.Elements(), SystemPalette(), canvas, DataButton::Native);
+    PaintControl(plate.Elements(), SystemPalette(), canvas, Details::Native);
     std::cout << canvas.Text();
 }
 

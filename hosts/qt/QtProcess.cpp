@@ -8,9 +8,13 @@
 
 namespace zorvane {
 
+PlateWidget::MessageHandler QtMessages::handler;
+
 void QtMessages::Show(const Message& message) {
-    QMessageBox box(QMessageBox::Critical, QString::fromStdString(message.title),
-                    QString::fromStdString(message.prompt), QMessageBox::Ok,
+    const QString title = QString::fromStdString(message.title);
+    const QString text = QString::fromStdString(message.prompt).remove(QLatin1Char('\r'));
+    if (const auto takes = handler) return takes(title, text);
+    QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok,
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.show();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/qt/PlateWidget.h"
 #include "hosts/qt/registry/DesktopRegistry.h"
 #include "platform/Process.h"
 
@@ -7,9 +8,13 @@
 
 namespace zorvane {
 
-/// Message boxes of the desktop. The call returns once the operator has dismissed the box.
+/// Message boxes of the desktop, unless the program handles messages itself. The call returns once
+/// the operator has dismissed the box.
 class QtMessages final : public MessageDisplay {
   public:
+    /// Where messages go instead of into boxes, while there is a handler.
+    static PlateWidget::MessageHandler handler;
+
     void Show(const Message& message) override;
 };
 

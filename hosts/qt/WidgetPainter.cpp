@@ -78,7 +78,7 @@ void WidgetPainter::Paint(const QPaintEvent& event) {
 void WidgetPainter::PaintPlate(QPainter& painter, const QRectF& clip) {
     const Surface& surface = plate_.Elements();
     QtCanvas canvas(painter, images_, widget_.font(), clip);
-    PaintControl(surface, SystemColors(widget_.palette()), canvas, DataButton::Native);
+    PaintControl(surface, SystemColors(widget_.palette()), canvas, Details::Native);
     PaintAids(canvas);
     if (surface.fraPlate.visible) {
         overlay_.Paint(painter, canvas.DevicePixels(surface.fraPlate.box),

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "hosts/qt/HostedPlate.h"
 #include "hosts/qt/ShapeImages.h"
-#include "hosts/qt/StepRunner.h"
+#include "hosts/qt/widget/HostedPlate.h"
+#include "hosts/qt/widget/StepRunner.h"
 
 #include <QRectF>
 

@@ -1,9 +1,7 @@
 #include "hosts/qt/accessible/WellAccessible.h"
 
 #include "hosts/qt/PlateWidget.h"
-#include "hosts/qt/Units.h"
 #include "hosts/qt/aids/PlateHints.h"
-#include "hosts/qt/aids/PlateLegends.h"
 
 namespace zorvane {
 
@@ -21,10 +19,7 @@ QAccessibleInterface* WellAccessible::parent() const {
 
 QRect WellAccessible::rect() const {
     if (!isValid()) return {};
-    const Surface& surface = widget_->plate().Elements();
-    const Rect& rim = surface.WellRim[static_cast<std::size_t>(well_)].box;
-    const Rect& area = surface.fraPlate.box;
-    const QRect box = ToPixels(rim.Moved(area.left, area.top)).toAlignedRect();
+    const QRect box = widget_->wellRect(well_).toAlignedRect();
     return box.translated(widget_->mapToGlobal(QPoint()));
 }
 
@@ -33,11 +28,11 @@ QString WellAccessible::text(QAccessible::Text kind) const {
     const Plate& plate = widget_->plate();
     switch (kind) {
     case QAccessible::Name:
-        return QString::fromStdString(NameOfWell(plate, well_));
+        return widget_->wellCaption(well_);
     case QAccessible::Value:
         return QString::fromStdString(plate.WellAnnotation(well_));
     case QAccessible::Description:
-        return DescriptionOf(plate, well_).section(QLatin1Char('\n'), 1);
+        return DataOf(plate, well_);
     default:
         return {};
     }

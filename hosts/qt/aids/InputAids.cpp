@@ -1,8 +1,9 @@
 #include "hosts/qt/aids/InputAids.h"
 
 #include "hosts/qt/PlateWidget.h"
-#include "hosts/qt/StepRunner.h"
 #include "hosts/qt/aids/PlateLegends.h"
+#include "hosts/qt/widget/PlateSignals.h"
+#include "hosts/qt/widget/StepRunner.h"
 
 #include <QKeyEvent>
 
@@ -13,7 +14,7 @@ using Aid = PlateWidget::Aid;
 template <class Selection>
 void InputAids::Select(Selection selection) {
     steps_.Run([&] {
-        selection();
+        observer_.Gather(selection);
         emit widget_.selectionAided();
     });
 }

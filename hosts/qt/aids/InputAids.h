@@ -7,6 +7,7 @@ class QKeyEvent;
 
 namespace zorvane {
 
+class PlateSignals;
 class PlateWidget;
 class StepRunner;
 
@@ -14,8 +15,8 @@ class StepRunner;
 /// it.
 class InputAids final {
   public:
-    InputAids(PlateWidget& widget, Plate& plate, StepRunner& steps)
-        : widget_(widget), plate_(plate), steps_(steps), selection_(plate) {}
+    InputAids(PlateWidget& widget, Plate& plate, StepRunner& steps, PlateSignals& observer)
+        : widget_(widget), plate_(plate), steps_(steps), observer_(observer), selection_(plate) {}
 
     /// Each returns whether an aid has answered the input, which the control is then not given.
     bool TakesPress(Integer button, Integer shift, InputRouter::Spot at);
@@ -33,6 +34,7 @@ class InputAids final {
     PlateWidget& widget_;
     Plate& plate_;
     StepRunner& steps_;
+    PlateSignals& observer_;
     SelectionAids selection_;
 };
 

@@ -16,7 +16,7 @@ namespace {
 constexpr Single kLeastBadge = 165;
 
 struct Hints {
-    Q_DECLARE_TR_FUNCTIONS(PlateWidget)
+    Q_DECLARE_TR_FUNCTIONS(zorvane::PlateWidget)
 };
 
 bool IsWell(const Plate& plate, Integer wellNo) {
@@ -91,9 +91,9 @@ void MarkErrors(const Plate& plate, Canvas& canvas) {
     }
 }
 
-QString DescriptionOf(const Plate& plate, Integer wellNo) {
+QString DataOf(const Plate& plate, Integer wellNo) {
     if (!IsWell(plate, wellNo)) return {};
-    QStringList lines{QString::fromStdString(NameOfWell(plate, wellNo))};
+    QStringList lines;
     if (const Single volume = plate.GetVolume(wellNo); volume != 0 || plate.IsDefined(wellNo))
         lines += Hints::tr("Volume %1 µl").arg(QLocale().toString(double{volume}, 'g', 6));
     if (const String text = plate.Text(wellNo); !text.empty())

@@ -19,8 +19,7 @@ Rect HighlightedLegends(const Plate& plate, Integer wellNo);
 /// mark.
 void MarkErrors(const Plate& plate, Canvas& canvas);
 
-/// Position and sub-well, volume, text and error of a well, a line each; empty for a number that is
-/// no well.
-QString DescriptionOf(const Plate& plate, Integer wellNo);
+/// Volume, text and error of a well, a line each; empty for a number that is no well.
+QString DataOf(const Plate& plate, Integer wellNo);
 
 } // namespace zorvane

@@ -22,14 +22,4 @@ std::optional<GridLine> LegendAt(const Plate& plate, Single x, Single y) {
     return std::nullopt;
 }
 
-String NameOfWell(const Plate& plate, Integer wellNo) {
-    const auto row = static_cast<Integer>(wellNo / plate.Cols % plate.Rows);
-    const auto col = static_cast<Integer>(wellNo % plate.Cols);
-    String position = RowLegend(plate, row).caption + ColumnLegend(plate, col).caption;
-    const auto subWells = plate.LoadedDefinition().CompoundWell();
-    const Long subWell = wellNo / plate.Cols / plate.Rows + 1;
-    if (subWells->Count() < 2 || subWell > subWells->Count()) return position;
-    return position + ", " + subWells->Item(subWell)->WellName();
-}
-
 } // namespace zorvane

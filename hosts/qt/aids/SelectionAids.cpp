@@ -37,6 +37,17 @@ void SelectionAids::SelectAll() {
     plate_.CurrentWell(current);
 }
 
+void SelectionAids::SelectWells(const std::vector<Integer>& wells) {
+    const Integer current = plate_.CurrentWell();
+    plate_.ClearSelection();
+    for (const Integer well : wells) {
+        if (plate_.IsSelected(well)) continue;
+        plate_.CurrentWell(well);
+        plate_.SetWell(plate_.Row(), plate_.Col(), plate_.SubWell(), wsAddToSelection);
+    }
+    plate_.CurrentWell(current);
+}
+
 bool SelectionAids::Any() const {
     for (Integer well = 0; well < plate_.TotalWells(); ++well)
         if (plate_.IsSelected(well)) return true;

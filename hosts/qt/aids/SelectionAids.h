@@ -3,6 +3,7 @@
 #include "hosts/qt/aids/PlateLegends.h"
 
 #include <optional>
+#include <vector>
 
 namespace zorvane {
 
@@ -21,6 +22,9 @@ class SelectionAids {
     /// Selects a row or column in the current sub-well.
     void SelectLine(GridLine line, bool keepOthers);
     void SelectAll();
+    /// Selects these wells and no others. Without MultipleSelect, each takes the place of the one
+    /// before.
+    void SelectWells(const std::vector<Integer>& wells);
     /// Whether a well is selected, counted by the control or not.
     bool Any() const;
 

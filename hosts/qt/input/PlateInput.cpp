@@ -1,11 +1,12 @@
 #include "hosts/qt/input/PlateInput.h"
 
 #include "hosts/qt/PlateWidget.h"
-#include "hosts/qt/StepRunner.h"
 #include "hosts/qt/Units.h"
 #include "hosts/qt/WidgetPainter.h"
 #include "hosts/qt/aids/PlateHints.h"
 #include "hosts/qt/input/InputCodes.h"
+#include "hosts/qt/widget/PlateSignals.h"
+#include "hosts/qt/widget/StepRunner.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -17,6 +18,8 @@ namespace zorvane {
 
 namespace {
 
+bool IsArrow(int key) { return key >= Qt::Key_Left && key <= Qt::Key_Down; }
+
 /// A place of the widget in drawing units.
 InputRouter::Spot SpotAt(QPointF position) {
     return {ToUnits(position.x()), ToUnits(position.y())};
@@ -24,9 +27,10 @@ InputRouter::Spot SpotAt(QPointF position) {
 
 } // namespace
 
-PlateInput::PlateInput(PlateWidget& widget, Plate& plate, WidgetPainter& painter, StepRunner& steps)
-    : widget_(widget), plate_(plate), painter_(painter), steps_(steps), router_(plate, *this),
-      aids_(widget, plate, steps) {}
+PlateInput::PlateInput(PlateWidget& widget, Plate& plate, WidgetPainter& painter, StepRunner& steps,
+                       PlateSignals& observer)
+    : widget_(widget), plate_(plate), painter_(painter), steps_(steps), observer_(observer),
+      router_(plate, *this), aids_(widget, plate, steps, observer) {}
 
 Integer PlateInput::WellAt(QPointF position) const {
     const auto [x, y] = SpotAt(position);
@@ -40,11 +44,15 @@ bool PlateInput::IsOverPlate(QPointF position) const {
 
 void PlateInput::Press(const QMouseEvent& event) {
     const auto [x, y] = SpotAt(event.position());
+    pressed_ = WellAt(event.position());
+    observer_.PointAt(-1);
     router_.Press(ButtonCode(event.button()), ShiftCodes(event.modifiers()), x, y);
 }
 
 void PlateInput::DoubleClick(const QMouseEvent& event) {
     const auto [x, y] = SpotAt(event.position());
+    pressed_ = WellAt(event.position());
+    observer_.PointAt(pressed_);
     router_.DoubleClick(ButtonCode(event.button()), ShiftCodes(event.modifiers()), x, y);
 }
 
@@ -53,30 +61,45 @@ void PlateInput::Move(const QMouseEvent& event) {
     router_.Move(ButtonCodes(event.buttons()), ShiftCodes(event.modifiers()), x, y);
     const bool overPlate = IsOverPlate(event.position());
     const bool heldOnPlate = router_.Held() == InputRouter::Part::PlateArea;
-    if (heldOnPlate || (overPlate && !InGesture())) painter_.HoverOver(WellAt(event.position()));
+    if (heldOnPlate || !InGesture()) HoverOver(WellAt(event.position()));
     ShowPointer(heldOnPlate || overPlate);
 }
 
 void PlateInput::Release(const QMouseEvent& event) {
     const auto [x, y] = SpotAt(event.position());
+    const Integer well = WellAt(event.position());
+    observer_.PointAt(well == pressed_ ? well : Integer{-1});
     router_.Release(ButtonCode(event.button()), ButtonCodes(event.buttons()),
                     ShiftCodes(event.modifiers()), x, y);
 }
 
 void PlateInput::Leave() {
     ShowPointer(false);
-    painter_.HoverOver(-1);
+    HoverOver(-1);
+}
+
+void PlateInput::HoverOver(Integer wellNo) {
+    if (wellNo == painter_.Hovered()) return;
+    painter_.HoverOver(wellNo);
+    emit widget_.wellHovered(wellNo);
 }
 
 void PlateInput::KeyPress(QKeyEvent& event) {
     painter_.ShowFocusRing(true);
     if (aids_.TakesKey(event)) return;
+    if (IsArrow(event.key())) ChooseSubWell();
     const Integer shift = ShiftCodes(event.modifiers());
     const Integer from = plate_.CurrentWell();
     const bool isArrow = router_.KeyDown(KeyCode(event.key()), CharacterCode(event.text()), shift);
     if (isArrow) aids_.Moved(from, shift);
     ShowPointer(widget_.underMouse());
     event.setAccepted(isArrow);
+}
+
+void PlateInput::ChooseSubWell() {
+    if (!widget_.aids().testFlag(PlateWidget::Aid::ArrowsChooseSubWell)) return;
+    if (plate_.TotalWells() > 0 && plate_.WellIndex() == 0)
+        steps_.Run([this] { plate_.WellIndex(1); });
 }
 
 void PlateInput::KeyRelease(QKeyEvent& event) {
@@ -95,6 +118,8 @@ Boolean PlateInput::AnswerPress(Integer button, Integer shift, InputRouter::Spot
 
 // Whatever went wrong on the way, no outline outlives its gesture.
 void PlateInput::GestureEnded() { painter_.WipeOutlines(); }
+
+Boolean PlateInput::PanelIsApart() const { return widget_.detailsDetached(); }
 
 void PlateInput::ShowPointer(bool overPlate) {
     const PointerShape shape = overPlate ? plate_.Elements().platePointer : PointerShape::Standard;
@@ -115,9 +140,11 @@ void PlateInput::ShowToolTip(const QHelpEvent& event) {
 }
 
 QString PlateInput::ToolTip() const {
-    return widget_.aids().testFlag(PlateWidget::Aid::RichToolTips)
-               ? DescriptionOf(plate_, painter_.Hovered())
-               : QString::fromStdString(plate_.Elements().plateToolTip);
+    if (!widget_.aids().testFlag(PlateWidget::Aid::RichToolTips))
+        return QString::fromStdString(plate_.Elements().plateToolTip);
+    const QString name = widget_.wellCaption(painter_.Hovered());
+    const QString data = DataOf(plate_, painter_.Hovered());
+    return data.isEmpty() ? name : name + QLatin1Char('\n') + data;
 }
 
 } // namespace zorvane

@@ -9,7 +9,9 @@
 
 namespace zorvane {
 
-QRect InView(const Rect& box) { return ToPixels(box.Moved(0, -kEmptyTop)).toRect(); }
+QRect InView(const Rect& box, int wider) {
+    return ToPixels(box.Moved(0, -kEmptyTop)).toRect().adjusted(0, 0, wider, 0);
+}
 
 void SetColor(QWidget& widget, QPalette::ColorRole role, const QColor& color) {
     QPalette palette = widget.palette();
@@ -22,16 +24,16 @@ QString WithoutMnemonic(QString text) {
     return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
-void ShowButton(QPushButton& shown, const Button& button) {
-    shown.setGeometry(InView(button.box));
+void ShowButton(QPushButton& shown, const Button& button, int shift) {
+    shown.setGeometry(InView(button.box).translated(shift, 0));
     shown.setText(QString::fromStdString(button.caption));
     shown.setEnabled(button.enabled);
     shown.setVisible(button.visible);
 }
 
-void ShowDropDown(QComboBox& shown, const DropDown& list) {
+void ShowDropDown(QComboBox& shown, const DropDown& list, int wider) {
     const QSignalBlocker silent(shown);
-    shown.setGeometry(InView(list.box));
+    shown.setGeometry(InView(list.box, wider));
     while (shown.count() > static_cast<int>(list.entries.size()))
         shown.removeItem(shown.count() - 1);
     for (int i = 0; i < static_cast<int>(list.entries.size()); ++i) {

@@ -19,8 +19,9 @@ namespace zorvane {
 /// nothing then scrolls under the data button. In drawing units.
 inline constexpr Single kEmptyTop = 225;
 
-/// Where an element of the panel stands in the scrolling view.
-QRect InView(const Rect& box);
+/// Where an element of the panel stands in the scrolling view, that many pixels wider than it is
+/// designed.
+QRect InView(const Rect& box, int wider = 0);
 
 /// Gives a widget a colour for one role of its palette, where it has another: setting a palette
 /// costs a repaint.
@@ -29,8 +30,10 @@ void SetColor(QWidget& widget, QPalette::ColorRole role, const QColor& color);
 /// A text in which every "&" is shown as it is.
 QString WithoutMnemonic(QString text);
 
-void ShowButton(QPushButton& shown, const Button& button);
-/// Changes only the entries that differ; emits nothing.
-void ShowDropDown(QComboBox& shown, const DropDown& list);
+/// Shows a button that many pixels further right than it is designed.
+void ShowButton(QPushButton& shown, const Button& button, int shift);
+/// Shows a list that many pixels wider than it is designed. Changes only the entries that differ;
+/// emits nothing.
+void ShowDropDown(QComboBox& shown, const DropDown& list, int wider);
 
 } // namespace zorvane

@@ -27,7 +27,7 @@ constexpr const char* kThinScrollBar =
 PanelMirror::PanelMirror(QWidget& host, Plate& plate, StepRunner& steps)
     : host_(host), plate_(plate), steps_(steps), frame_(&host), view_(&frame_), pages_(&contents_),
       menu_(&contents_), comment_(&contents_), preview_(&contents_), style_(&contents_),
-      apply_(&contents_), rows_(host, view_, {&preview_, &style_, &apply_}) {
+      apply_(&contents_), rows_(frame_, view_, {&preview_, &style_, &apply_}) {
     frame_.hide();
     frame_.setAutoFillBackground(true);
     frame_.setCursor(Qt::ArrowCursor); // the pointer shape of the plate means nothing here
@@ -42,6 +42,38 @@ PanelMirror::PanelMirror(QWidget& host, Plate& plate, StepRunner& steps)
     comment_.setUndoRedoEnabled(true);
     NameControls();
     Connect();
+}
+
+PanelMirror::~PanelMirror() {
+    if (!detached_) return;
+    detached_->disconnect(this);
+    frame_.setParent(&host_);
+    delete detached_;
+}
+
+void PanelMirror::Detach(bool on) {
+    if (on == (detached_ != nullptr)) return;
+    if (!on) {
+        delete detached_; // brings the panel back
+        return;
+    }
+    detached_ = new DetachedPanel(host_);
+    frame_.setParent(detached_);
+    connect(detached_, &DetachedPanel::placed, this, &PanelMirror::Sync);
+    connect(detached_, &DetachedPanel::closed, this, &PanelMirror::Close);
+    connect(detached_, &DetachedPanel::going, this, &PanelMirror::BringBack);
+    Sync();
+}
+
+void PanelMirror::BringBack() {
+    detached_.clear();
+    frame_.setParent(&host_);
+    frame_.lower(); // leaves room for the data button
+    Sync();
+}
+
+bool PanelMirror::IsShown() const {
+    return (detached_ && !detached_->isWindow()) || plate_.Elements().fraData.visible;
 }
 
 void PanelMirror::NameControls() {
@@ -103,9 +135,10 @@ void PanelMirror::Settle() {
 
 void PanelMirror::Sync() {
     if (running_ > 0) return;
-    if (!plate_.Elements().fraData.visible) {
+    if (!IsShown()) {
         if (HoldsFocus()) host_.setFocus(Qt::OtherFocusReason);
         frame_.hide();
+        if (detached_) detached_->hide();
         return;
     }
     const QWidget* const focus = HoldsFocus() ? QApplication::focusWidget() : nullptr;
@@ -121,33 +154,43 @@ void PanelMirror::ShowAll() {
     if (frame_.font() != font) frame_.setFont(font);
     font.setPixelSize(font.pixelSize() - 1);
     if (style_.font() != font) style_.setFont(font);
-    ShowDropDown(pages_, Elements().comboSelect);
+    ShowDropDown(pages_, Elements().comboSelect, Widening());
     ShowComment(colors);
-    if (rows_.Show(Elements(), colors)) OrderTabs();
+    if (rows_.Show(Elements(), colors, Widening())) OrderTabs();
     ShowStyle(colors);
-    ShowButton(menu_, Elements().cmdPopup);
-    ShowButton(apply_, Elements().cmdApply);
+    ShowButton(menu_, Elements().cmdPopup, Widening());
+    ShowButton(apply_, Elements().cmdApply, Widening() / 2);
     FitContents();
     PlaceFrame(colors);
     frame_.show();
+    if (detached_ && detached_->isWindow()) detached_->show();
+}
+
+QSize PanelMirror::DesignedSize() const {
+    const Frame& frame = plate_.Elements().fraData;
+    return ToPixels(frame.box).toRect().size();
+}
+
+int PanelMirror::Widening() const {
+    return detached_ ? std::max(0, detached_->width() - DesignedSize().width()) : 0;
 }
 
 void PanelMirror::ShowComment(const SystemPalette& colors) {
     const TextBox& box = Elements().txtComment;
     const QString text = ShownComment(box.text);
     const QSignalBlocker silent(comment_);
-    comment_.setGeometry(InView(box.box));
+    comment_.setGeometry(InView(box.box, Widening()));
     SetColor(comment_, QPalette::Base, ToColor(Resolve(box.back, colors)));
     // Not disabled: a comment that can't be edited can still be scrolled and copied.
     comment_.setReadOnly(!box.enabled);
-    if (!comment_.isVisibleTo(&host_) || LinesIn(*comment_.document()) != text)
+    if (!comment_.isVisibleTo(frame_.parentWidget()) || LinesIn(*comment_.document()) != text)
         comment_.setPlainText(text);
     comment_.setVisible(box.visible);
 }
 
 void PanelMirror::ShowStyle(const SystemPalette& colors) {
     const PanelElements& panel = Elements();
-    ShowDropDown(style_, panel.cmbStyle);
+    ShowDropDown(style_, panel.cmbStyle, Widening());
     preview_.Show(panel.StyleRim, panel.StyleWell, colors);
     preview_.setGeometry(InView(panel.StyleRim.box));
     preview_.setVisible(panel.StyleRim.visible);
@@ -170,7 +213,7 @@ void PanelMirror::FitContents() {
         if (widget && !widget->isHidden())
             used.setBottom(std::max(used.bottom(), widget->geometry().bottom()));
     }
-    contents_.resize(used.size());
+    contents_.resize(used.width() + Widening(), used.height());
 }
 
 // Where the widget is lower than the panel, the panel ends with it and scrolls.
@@ -178,6 +221,11 @@ void PanelMirror::PlaceFrame(const SystemPalette& colors) {
     const Frame& frame = plate_.Elements().fraData;
     QRect place = ToPixels(frame.box).toRect();
     place.setBottom(std::min(place.bottom(), host_.height() - 1));
+    if (detached_) {
+        detached_->Design(DesignedSize());
+        detached_->setWindowTitle(ShownText(frame.caption));
+        place = detached_->rect();
+    }
     frame_.setGeometry(place);
     frame_.setTitle(WithoutMnemonic(frame_.fontMetrics().elidedText(
         ShownText(frame.caption), Qt::ElideMiddle, place.width() - 2 * PanelFrame::kTitleLeft)));
@@ -188,7 +236,8 @@ void PanelMirror::PlaceFrame(const SystemPalette& colors) {
     QRect view = ToPixels({container.left, container.top + kEmptyTop, container.width,
                            container.height - kEmptyTop})
                      .toRect();
-    view.setBottom(std::min(view.bottom(), place.height() - 3));
+    view.setWidth(view.width() + Widening());
+    view.setBottom(detached_ ? place.height() - 3 : std::min(view.bottom(), place.height() - 3));
     view_.setGeometry(view);
 }
 

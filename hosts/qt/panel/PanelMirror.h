@@ -2,11 +2,12 @@
 
 #include "control/Plate.h"
 #include "drawing/Palette.h"
-#include "hosts/qt/StepRunner.h"
 #include "hosts/qt/panel/CompactComboBox.h"
+#include "hosts/qt/panel/DetachedPanel.h"
 #include "hosts/qt/panel/PanelFrame.h"
 #include "hosts/qt/panel/PanelRows.h"
 #include "hosts/qt/panel/StylePreview.h"
+#include "hosts/qt/widget/StepRunner.h"
 
 #include <QObject>
 #include <QPlainTextEdit>
@@ -26,6 +27,14 @@ class PanelMirror final : public QObject {
   public:
     /// Shows the panel inside `host`, the widget of the control.
     PanelMirror(QWidget& host, Plate& plate, StepRunner& steps);
+    ~PanelMirror() override;
+
+    /// Moves the panel into a widget of its own, or back.
+    void Detach(bool on);
+    /// That widget, or null.
+    QWidget* Detached() const { return detached_; }
+    /// Whether the operator can see it: where the host has put it in a place of its own, always.
+    bool IsShown() const;
 
     /// Takes over what has changed, and only that: a text box keeps its cursor, its selection and
     /// its undo history while it stays visible for the same property with the same text.
@@ -56,6 +65,7 @@ class PanelMirror final : public QObject {
   private:
     void Settle();
     const PanelElements& Elements() const { return plate_.Elements().panel; }
+    void BringBack();
     void NameControls();
     void Connect();
     void PressApply();
@@ -63,11 +73,15 @@ class PanelMirror final : public QObject {
     bool HoldsFocus() const;
 
     void ShowAll();
+    /// How much wider than designed the panel is, in pixels.
+    int Widening() const;
     void ShowComment(const SystemPalette& colors);
     void ShowStyle(const SystemPalette& colors);
     void OrderTabs();
     void FitContents();
     void PlaceFrame(const SystemPalette& colors);
+
+    QSize DesignedSize() const;
 
     QWidget& host_;
     Plate& plate_;
@@ -75,6 +89,7 @@ class PanelMirror final : public QObject {
     int running_ = 0;
     bool changed_ = false;
 
+    QPointer<DetachedPanel> detached_;
     PanelFrame frame_;
     QScrollArea view_; ///< stands for ControlPic
     QWidget contents_;

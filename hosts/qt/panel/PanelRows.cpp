@@ -10,10 +10,10 @@
 
 namespace zorvane {
 
-PanelRows::PanelRows(const QWidget& host, QScrollArea& view, std::vector<QWidget*> above)
-    : host_(host), view_(view), above_(std::move(above)) {}
+PanelRows::PanelRows(const QWidget& frame, QScrollArea& view, std::vector<QWidget*> above)
+    : frame_(frame), view_(view), above_(std::move(above)) {}
 
-bool PanelRows::Show(const PanelElements& panel, const SystemPalette& colors) {
+bool PanelRows::Show(const PanelElements& panel, const SystemPalette& colors, int wider) {
     const bool grows = rows_.size() < panel.txtData.size();
     // The comments page leaves the rows of the page before it in place, under its text box.
     const bool covered = panel.txtComment.visible;
@@ -30,7 +30,7 @@ bool PanelRows::Show(const PanelElements& panel, const SystemPalette& colors) {
 
         RowEdit& text = *rows_[i].text;
         // The frame goes around the box, which has no room for one.
-        text.setGeometry(InView(box.box).adjusted(0, -1, 0, 1));
+        text.setGeometry(InView(box.box, wider).adjusted(0, -1, 0, 1));
         text.setAlignment((box.rightAligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
         SetColor(text, QPalette::Base, ToColor(Resolve(box.back, colors)));
         ShowText(rows_[i], caption, box);
@@ -63,7 +63,7 @@ void PanelRows::Add() {
 void PanelRows::ShowText(Row& row, const RowCaption& caption, const TextBox& box) {
     const QString name = ShownText(caption.caption);
     const QString text = ShownText(box.text);
-    const bool same = row.text->isVisibleTo(&host_) && row.property == caption.Tag &&
+    const bool same = row.text->isVisibleTo(frame_.parentWidget()) && row.property == caption.Tag &&
                       row.text->accessibleName() == name;
     row.property = caption.Tag;
     if (row.text->accessibleName() != name) row.text->setAccessibleName(name);

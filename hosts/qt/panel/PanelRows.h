@@ -19,12 +19,13 @@ class PanelRows final : public QObject {
     Q_OBJECT
 
   public:
-    /// Rows are children of the widget in `view`, which lies in `host`; `above` are the widgets
+    /// Rows are children of the widget in `view`, which lies in `frame`; `above` are the widgets
     /// that stay over them.
-    PanelRows(const QWidget& host, QScrollArea& view, std::vector<QWidget*> above);
+    PanelRows(const QWidget& frame, QScrollArea& view, std::vector<QWidget*> above);
 
-    /// Takes over what has changed. Returns whether rows were added.
-    bool Show(const PanelElements& panel, const SystemPalette& colors);
+    /// Takes over what has changed, with text boxes that many pixels wider than designed. Returns
+    /// whether rows were added.
+    bool Show(const PanelElements& panel, const SystemPalette& colors, int wider);
     std::vector<QWidget*> TextBoxes() const;
 
   signals:
@@ -43,7 +44,7 @@ class PanelRows final : public QObject {
     void BringForward(const Row& row);
     void Stack();
 
-    const QWidget& host_;
+    const QWidget& frame_;
     QScrollArea& view_;
     std::vector<QWidget*> above_;
     std::vector<Row> rows_;

@@ -1,4 +1,4 @@
-#include "hosts/qt/StepRunner.h"
+#include "hosts/qt/widget/StepRunner.h"
 
 #include "hosts/qt/PlateWidget.h"
 #include "platform/Process.h"
@@ -19,7 +19,7 @@ void StepRunner::Report(const std::exception& error) {
         const QString source = ours ? QString::fromStdString(ours->Source()) : QString();
         emit widget_.failed(number, source, description);
     } else {
-        CurrentProcess().Messages().Show({description.toStdString()});
+        CurrentMessages().Show({description.toStdString()});
     }
 }
 

@@ -16,8 +16,13 @@ class PlateSizing final {
 
     /// The size that the control last asked for, in device-independent pixels.
     QSize Asked() const { return asked_; }
-    /// The control asks for a size. A layout that holds the widget decides by itself.
+    /// The control asks for a size. A layout that holds the widget decides by itself, and one that
+    /// opens its panel gets no smaller in a place that shows a part of it.
     void Take(QSize size);
+
+    /// The panel may have been closed: a widget whose place is managed asks for no more than
+    /// before.
+    void PanelChanged();
 
     /// Whether a plate of fixed size is fitted to each new size of the widget.
     bool RefitOnResize() const { return refitOnResize_; }
@@ -36,6 +41,7 @@ class PlateSizing final {
     PanelMirror& panel_;
     StepRunner& steps_;
     QSize asked_{400, 270};
+    QSize closed_{asked_}; ///< asked for with the panel closed
     bool refitOnResize_ = false;
     bool refitting_ = false;
 };
