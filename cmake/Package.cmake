@@ -41,6 +41,7 @@ function(zorvane_library name)
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 
+    set_property(GLOBAL APPEND PROPERTY ZORVANE_HEADERS ${LIB_HEADERS})
     if(NOT ZORVANE_INSTALL)
         return()
     endif()

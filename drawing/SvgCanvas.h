@@ -20,7 +20,7 @@ struct SvgPage {
     Single pixelHeight = 0;
 };
 
-/// Writes what is painted as an SVG picture whose unit is the drawing unit. Groups become <g>
+/// Writes what is painted as an SVG picture whose unit is the drawing unit. Groups become "g"
 /// elements with their names as ids, those without content are left out; a group states the colours
 /// of its first element, so that equal wells take a few bytes each.
 class ZORVANE_EXPORT SvgCanvas final : public Canvas {

@@ -76,6 +76,13 @@ execute_process(COMMAND "${programs}/terminal/plate_in_a_terminal" "${library}" 
 expect_file("${work}/terminal.txt" "${expected}/terminal.txt")
 
 if(WITH_QT)
+    execute_process(COMMAND "${programs}/instrument/plate_for_an_instrument" "${library}"
+        OUTPUT_FILE "${work}/instrument.txt" ERROR_QUIET)
+    # The name of the library in a message is this machine's.
+    file(READ "${work}/instrument.txt" text)
+    string(REPLACE "${library}" "LIBRARY" text "${text}")
+    file(WRITE "${work}/instrument.txt" "${text}")
+    expect_file("${work}/instrument.txt" "${expected}/instrument.txt")
     foreach(example widget/plate_in_a_window form/plate_on_a_form)
         run("${example}" "${programs}/${example}" "${library}" Sitting_96x3 "${work}/picture.png")
         file(SIZE "${work}/picture.png" size)
