@@ -18,6 +18,8 @@ PlateWidget::PlateWidget(QWidget* parent) : QWidget(parent) {
     d_ = new Parts(*this);
     connect(this, &PlateWidget::currentWellChanged, this,
             [this] { PlateAccessible::AnnounceCurrentWell(*this); });
+    connect(this, &PlateWidget::selectionChanged, this,
+            [this] { PlateAccessible::AnnounceSelection(*this); });
 
     setMouseTracking(true);
     // A press takes the focus where the control says so.

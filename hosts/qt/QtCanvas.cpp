@@ -55,6 +55,7 @@ QtCanvas::QtCanvas(QPainter& painter, ShapeImages& images, const QFont& font, co
     world.scale(1 / toDevice.m11(), 1 / toDevice.m22());
     painter_.setWorldTransform(world);
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, false);
+    painter_.setLayoutDirection(Qt::LayoutDirectionAuto); // whatever the direction of the widget
     const double height = double{kFontHeight} * scaleY_;
     plain_ = {Sized(font, height, false)};
     bold_ = {Sized(font, height, true)};
@@ -95,7 +96,8 @@ void QtCanvas::DrawText(const TextStyle& style, const Rect& box, std::string_vie
     if (text.empty()) return;
     painter_.setFont(FaceFor(style.bold).font);
     painter_.setPen(ToColor(style.color));
-    const int align = style.align == TextAlign::Left ? Qt::AlignLeft : Qt::AlignHCenter;
+    const auto align = style.align == TextAlign::Left ? Qt::AlignLeft | Qt::AlignAbsolute
+                                                      : Qt::Alignment(Qt::AlignHCenter);
     painter_.drawText(DevicePixels(box),
                       align | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
                       ToText(text));

@@ -1,5 +1,6 @@
 #include "hosts/qt/QtProcess.h"
 
+#include "hosts/qt/ControlText.h"
 #include "hosts/qt/Units.h"
 
 #include <QApplication>
@@ -12,7 +13,7 @@ PlateWidget::MessageHandler QtMessages::handler;
 
 void QtMessages::Show(const Message& message) {
     const QString title = QString::fromStdString(message.title);
-    const QString text = QString::fromStdString(message.prompt).remove(QLatin1Char('\r'));
+    const QString text = ControlText(message.prompt).remove(QLatin1Char('\r'));
     if (const auto takes = handler) return takes(title, text);
     QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok,
                     QApplication::activeWindow());

@@ -1,5 +1,6 @@
 #include "hosts/qt/QtSite.h"
 
+#include "hosts/qt/ControlText.h"
 #include "hosts/qt/Units.h"
 #include "hosts/qt/panel/PanelText.h"
 
@@ -28,18 +29,17 @@ void QtSite::TakeFocus() {
 }
 
 String QtSite::Ask(const Question& question) {
-    QString prompt = QString::fromStdString(question.prompt);
+    QString prompt = ControlText(question.prompt);
     prompt.remove(QLatin1Char('\r'));
-    const QString answer =
-        QInputDialog::getText(widget_, QString::fromStdString(question.title), prompt,
-                              QLineEdit::Normal, ShownText(question.preset));
+    const QString answer = QInputDialog::getText(widget_, ControlText(question.title), prompt,
+                                                 QLineEdit::Normal, ShownText(question.preset));
     return TakenText(answer, question.preset);
 }
 
 Integer QtSite::Choose(const std::vector<MenuEntry>& entries) {
     const QPointer<QMenu> menu = new QMenu(widget_);
     for (const MenuEntry& entry : entries)
-        menu->addAction(QString::fromStdString(entry.caption))->setEnabled(entry.enabled);
+        menu->addAction(ControlText(entry.caption))->setEnabled(entry.enabled);
     const QAction* const chosen = menu->exec(MenuPlace());
     if (!menu) return -1; // went with its widget
     const auto position = static_cast<Integer>(menu->actions().indexOf(chosen));

@@ -35,6 +35,11 @@ void PlateAccessible::AnnounceCurrentWell(PlateWidget& widget) {
     QAccessible::updateAccessibility(&event);
 }
 
+void PlateAccessible::AnnounceSelection(PlateWidget& widget) {
+    QAccessibleEvent event(&widget, QAccessible::SelectionWithin);
+    QAccessible::updateAccessibility(&event);
+}
+
 PlateWidget& PlateAccessible::Shown() const { return *static_cast<PlateWidget*>(widget()); }
 
 int PlateAccessible::childCount() const {

@@ -21,6 +21,8 @@ class PlateAccessible final : public QAccessibleWidget {
     static void Install();
     /// Tells assistive technology that another well of a widget with the focus is current.
     static void AnnounceCurrentWell(PlateWidget& widget);
+    /// Tells assistive technology that other wells are selected.
+    static void AnnounceSelection(PlateWidget& widget);
 
     int childCount() const override;
     QAccessibleInterface* child(int index) const override;

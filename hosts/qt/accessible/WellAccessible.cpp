@@ -51,4 +51,33 @@ QAccessible::State WellAccessible::state() const {
     return state;
 }
 
+void* WellAccessible::interface_cast(QAccessible::InterfaceType type) {
+    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
+                                                : nullptr;
+}
+
+QStringList WellAccessible::actionNames() const {
+    if (!isValid() || !widget_->mouseEnabled()) return {};
+    return {pressAction(), toggleAction(), setFocusAction()};
+}
+
+void WellAccessible::doAction(const QString& name) {
+    if (!actionNames().contains(name)) return;
+    const QPointer<PlateWidget> widget = widget_;
+    widget->setCurrentWell(well_);
+    if (widget) widget->setFocus(Qt::OtherFocusReason);
+    if (widget && name != setFocusAction()) Select(name == toggleAction());
+}
+
+void WellAccessible::Select(bool keepOthers) {
+    const QPointer<PlateWidget> widget = widget_;
+    QList<int> wells{well_};
+    if (keepOthers) {
+        wells = widget->selectedWells();
+        if (wells.removeAll(well_) == 0) wells += well_;
+    }
+    widget->setSelectedWells(wells);
+    if (widget) emit widget->selectionAided();
+}
+
 } // namespace zorvane

@@ -9,9 +9,9 @@ namespace zorvane {
 
 class PlateWidget;
 
-/// One well as assistive technology sees it: where it is, what it holds and whether it is selected.
-/// Invalid once the plate has no such well.
-class WellAccessible final : public QAccessibleInterface {
+/// One well as assistive technology sees it: where it is, what it holds and whether it is selected;
+/// it can be made current and be selected. Invalid once the plate has no such well.
+class WellAccessible final : public QAccessibleInterface, public QAccessibleActionInterface {
   public:
     WellAccessible(PlateWidget& widget, Integer well);
 
@@ -30,8 +30,17 @@ class WellAccessible final : public QAccessibleInterface {
     QRect rect() const override;
     QString text(QAccessible::Text kind) const override;
     QAccessible::State state() const override;
+    void* interface_cast(QAccessible::InterfaceType type) override;
+
+    /// None while the mouse is disabled: then the operator's input is not wanted.
+    QStringList actionNames() const override;
+    /// A press selects this well only, a toggle this one too.
+    void doAction(const QString& name) override;
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
   private:
+    void Select(bool keepOthers);
+
     QPointer<PlateWidget> widget_;
     Integer well_;
 };

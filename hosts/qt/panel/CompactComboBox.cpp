@@ -36,7 +36,7 @@ void CompactComboBox::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), palette().color(QPalette::Button));
     painter.setPen(textColor);
     const QRect text = rect().adjusted(kThinFrameMargin + 1, 0, -kArrowRoom, 0);
-    painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft,
+    painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft | Qt::AlignAbsolute,
                      fontMetrics().elidedText(currentText(), Qt::ElideRight, text.width()));
     PaintArrow(painter, textColor, {width() - kArrowRoom / 2.0, height() / 2.0 + 2});
     PaintThinFrame(painter, *this);

@@ -1,7 +1,7 @@
 #include "hosts/qt/panel/PanelControls.h"
 
+#include "hosts/qt/ControlText.h"
 #include "hosts/qt/Units.h"
-#include "hosts/qt/panel/PanelText.h"
 
 #include <QComboBox>
 #include <QPushButton>
@@ -26,7 +26,7 @@ QString WithoutMnemonic(QString text) {
 
 void ShowButton(QPushButton& shown, const Button& button, int shift) {
     shown.setGeometry(InView(button.box).translated(shift, 0));
-    shown.setText(QString::fromStdString(button.caption));
+    shown.setText(ControlText(button.caption));
     shown.setEnabled(button.enabled);
     shown.setVisible(button.visible);
 }
@@ -37,7 +37,7 @@ void ShowDropDown(QComboBox& shown, const DropDown& list, int wider) {
     while (shown.count() > static_cast<int>(list.entries.size()))
         shown.removeItem(shown.count() - 1);
     for (int i = 0; i < static_cast<int>(list.entries.size()); ++i) {
-        const QString entry = ShownText(list.entries[static_cast<std::size_t>(i)]);
+        const QString entry = ControlText(list.entries[static_cast<std::size_t>(i)]);
         if (i == shown.count()) shown.addItem(entry);
         if (shown.itemText(i) != entry) shown.setItemText(i, entry);
     }

@@ -12,7 +12,8 @@ void PanelFrame::paintEvent(QPaintEvent*) {
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(QRect(kTitleLeft, 1, width() - 2 * kTitleLeft, kTitleHeight),
-                     Qt::AlignVCenter | Qt::TextShowMnemonic, title());
+                     Qt::AlignVCenter | Qt::AlignLeft | Qt::AlignAbsolute | Qt::TextShowMnemonic,
+                     title());
 }
 
 void PanelFrame::keyPressEvent(QKeyEvent* event) {

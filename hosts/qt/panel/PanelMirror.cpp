@@ -1,6 +1,7 @@
 #include "hosts/qt/panel/PanelMirror.h"
 
 #include "drawing/Canvas.h"
+#include "hosts/qt/ControlText.h"
 #include "hosts/qt/QtPalette.h"
 #include "hosts/qt/Units.h"
 #include "hosts/qt/panel/PanelControls.h"
@@ -30,7 +31,8 @@ PanelMirror::PanelMirror(QWidget& host, Plate& plate, StepRunner& steps)
       apply_(&contents_), rows_(frame_, view_, {&preview_, &style_, &apply_}) {
     frame_.hide();
     frame_.setAutoFillBackground(true);
-    frame_.setCursor(Qt::ArrowCursor); // the pointer shape of the plate means nothing here
+    frame_.setLayoutDirection(Qt::LeftToRight); // the control places what is in it
+    frame_.setCursor(Qt::ArrowCursor);          // the pointer shape of the plate means nothing here
     view_.setFrameShape(QFrame::NoFrame);
     view_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     view_.verticalScrollBar()->setStyleSheet(QLatin1String(kThinScrollBar));
@@ -223,12 +225,12 @@ void PanelMirror::PlaceFrame(const SystemPalette& colors) {
     place.setBottom(std::min(place.bottom(), host_.height() - 1));
     if (detached_) {
         detached_->Design(DesignedSize());
-        detached_->setWindowTitle(ShownText(frame.caption));
+        detached_->setWindowTitle(ControlText(frame.caption));
         place = detached_->rect();
     }
     frame_.setGeometry(place);
     frame_.setTitle(WithoutMnemonic(frame_.fontMetrics().elidedText(
-        ShownText(frame.caption), Qt::ElideMiddle, place.width() - 2 * PanelFrame::kTitleLeft)));
+        ControlText(frame.caption), Qt::ElideMiddle, place.width() - 2 * PanelFrame::kTitleLeft)));
     SetColor(frame_, QPalette::Window, ToColor(Resolve(frame.back, colors)));
     SetColor(frame_, QPalette::WindowText, ToColor(Resolve(frame.text, colors)));
 

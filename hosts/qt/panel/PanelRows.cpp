@@ -1,5 +1,6 @@
 #include "hosts/qt/panel/PanelRows.h"
 
+#include "hosts/qt/ControlText.h"
 #include "hosts/qt/QtPalette.h"
 #include "hosts/qt/panel/PanelControls.h"
 #include "hosts/qt/panel/PanelText.h"
@@ -25,7 +26,7 @@ bool PanelRows::Show(const PanelElements& panel, const SystemPalette& colors, in
         QLabel& label = *rows_[i].caption;
         label.setGeometry(
             InView({caption.box.left, caption.box.top, box.box.left - 30, caption.box.height}));
-        label.setText(WithoutMnemonic(ShownText(caption.caption)));
+        label.setText(WithoutMnemonic(ControlText(caption.caption)));
         label.setVisible(caption.visible && !covered);
 
         RowEdit& text = *rows_[i].text;
@@ -61,7 +62,7 @@ void PanelRows::Add() {
 // Setting a text empties its undo history, so that what was typed for one property can't come back
 // in the row of another.
 void PanelRows::ShowText(Row& row, const RowCaption& caption, const TextBox& box) {
-    const QString name = ShownText(caption.caption);
+    const QString name = ControlText(caption.caption);
     const QString text = ShownText(box.text);
     const bool same = row.text->isVisibleTo(frame_.parentWidget()) && row.property == caption.Tag &&
                       row.text->accessibleName() == name;

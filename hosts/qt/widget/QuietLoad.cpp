@@ -1,5 +1,6 @@
 #include "hosts/qt/widget/QuietLoad.h"
 
+#include "hosts/qt/ControlText.h"
 #include "platform/Process.h"
 #include "runtime/RuntimeError.h"
 
@@ -16,7 +17,7 @@ class KeptMessages final : public MessageDisplay {
     void Show(const Message& message) override { messages_.push_back(message); }
 
     bool Any() const { return !messages_.empty(); }
-    QString Last() const { return QString::fromStdString(messages_.back().prompt); }
+    QString Last() const { return ControlText(messages_.back().prompt); }
     void ShowAll() const {
         for (const Message& message : messages_)
             CurrentMessages().Show(message);
@@ -40,7 +41,7 @@ std::optional<QuietLoad::Failure> QuietLoad::Run(Plate& plate, const String& nam
         }
     } catch (const RuntimeError& error) {
         return Failure{error.Number(), QString::fromStdString(error.Source()),
-                       QString::fromStdString(error.Description())};
+                       ControlText(error.Description())};
     } catch (const std::exception& error) { // from a slot of the host
         return Failure{0, {}, QString::fromLocal8Bit(error.what())};
     }

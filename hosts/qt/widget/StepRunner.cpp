@@ -1,5 +1,6 @@
 #include "hosts/qt/widget/StepRunner.h"
 
+#include "hosts/qt/ControlText.h"
 #include "hosts/qt/PlateWidget.h"
 #include "platform/Process.h"
 #include "runtime/RuntimeError.h"
@@ -13,7 +14,7 @@ QObject* StepRunner::AsObject() const { return &widget_; }
 void StepRunner::Report(const std::exception& error) {
     const auto* const ours = dynamic_cast<const RuntimeError*>(&error);
     const QString description =
-        ours ? QString::fromStdString(ours->Description()) : QString::fromLocal8Bit(error.what());
+        ours ? ControlText(ours->Description()) : QString::fromLocal8Bit(error.what());
     if (widget_.isSignalConnected(QMetaMethod::fromSignal(&PlateWidget::failed))) {
         const int number = ours ? ours->Number() : 0; // 0: thrown by a slot of the host
         const QString source = ours ? QString::fromStdString(ours->Source()) : QString();
