@@ -38,6 +38,12 @@ class Words {
             return static_cast<Argument>(LeadingSingle(word));
         }
     }
+    /// The words that are left.
+    String Rest() {
+        String rest;
+        std::getline(stream_ >> std::ws, rest);
+        return rest;
+    }
 
   private:
     std::istringstream stream_;
@@ -225,8 +231,9 @@ String RunCommand(HostDriver& host, const String& command, const String& lines) 
     }
     const auto action = Commands().find(name);
     if (action != Commands().end()) return action->second(host, words);
-    ADD_FAILURE() << "no such command: " << command;
-    return {};
+    const auto given = host.RunOwn(name, words.Rest());
+    if (!given) ADD_FAILURE() << "no such command: " << command;
+    return given.value_or("");
 }
 
 } // namespace zorvane

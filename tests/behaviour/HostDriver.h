@@ -3,6 +3,7 @@
 #include "control/Plate.h"
 
 #include <map>
+#include <optional>
 #include <set>
 
 namespace zorvane {
@@ -34,6 +35,11 @@ class HostDriver {
     virtual void ChooseCommand(Integer entry, const String& answer) = 0;
     /// Runs a command for the host, whether or not the menu offers it, and answers its question.
     virtual void RunCommand(SubWellCommand command, const String& answer) = 0;
+    /// Runs a command that other hosts do not have and returns what it gives, a line or nothing;
+    /// no value where there is no command of that name.
+    virtual std::optional<String> RunOwn(const String& /*name*/, const String& /*words*/) {
+        return std::nullopt;
+    }
 
     /// What the window shows by name: whether there is an outline, the tooltip, the pointer,
     /// what has taken the focus since the last call, its size in drawing units, and the question

@@ -69,9 +69,9 @@ void ExpectReplay(HostDriver& host, const std::filesystem::path& transcript) {
     ADD_FAILURE() << "differs from " << transcript << "; see the .new file next to it";
 }
 
-std::vector<std::filesystem::path> Transcripts() {
+std::vector<std::filesystem::path> Transcripts(const std::filesystem::path& folder) {
     std::vector<std::filesystem::path> transcripts;
-    for (const auto& entry : std::filesystem::directory_iterator(ZORVANE_BEHAVIOUR))
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
         if (entry.path().extension() == ".txt") transcripts.push_back(entry.path());
     return transcripts;
 }

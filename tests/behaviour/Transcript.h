@@ -17,7 +17,8 @@ String Replayed(HostDriver& host, std::string_view transcript);
 /// ending ".new", and can take its place once a person has looked at it.
 void ExpectReplay(HostDriver& host, const std::filesystem::path& transcript);
 
-/// The transcripts that every host replays.
-std::vector<std::filesystem::path> Transcripts();
+/// The transcripts in a folder; those that every host replays, unless told.
+std::vector<std::filesystem::path>
+Transcripts(const std::filesystem::path& folder = ZORVANE_BEHAVIOUR);
 
 } // namespace zorvane
