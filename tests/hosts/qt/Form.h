@@ -6,7 +6,6 @@
 
 #include <QImage>
 #include <QPushButton>
-#include <QStringList>
 #include <QtTest/QTest>
 
 namespace zorvane {
@@ -20,7 +19,7 @@ inline constexpr const char* kPlateText =
     "WELL Reservoir\r\nSTYLE SQUARE\r\nXOFFSET 10\r\nYOFFSET 10\r\nWELLSIZEX 3\r\nWELLSIZEY 3\r\n"
     "RIMWIDTH 0.5\r\nRIMHEIGHT 0.5\r\n";
 
-/// A window that shows a plate and writes down its signals.
+/// A window that shows a plate.
 struct Form {
     Form() {
         process.screen.twipsPerPixelX = static_cast<Single>(15 / widget.devicePixelRatio());
@@ -30,7 +29,6 @@ struct Form {
         plate.DrawingScale(100);
         plate.PlateClassText(kPlateText);
         plate.MultipleSelect = true;
-        WriteDownSignals();
         widget.show();
     }
 
@@ -47,9 +45,9 @@ struct Form {
         QTest::mousePress(&widget, Qt::LeftButton, keys, At(well));
     }
     void MoveTo(int well) { MoveTo(At(well)); }
-    void MoveTo(QPoint place) {
+    void MoveTo(QPoint place, Qt::MouseButtons buttons = Qt::LeftButton) {
         QMouseEvent event(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton,
-                          Qt::LeftButton, {});
+                          buttons, {});
         QApplication::sendEvent(&widget, &event);
     }
     void Release(int well) { QTest::mouseRelease(&widget, Qt::LeftButton, {}, At(well)); }
@@ -64,35 +62,9 @@ struct Form {
     }
 
     QImage Picture() { return widget.grab().toImage(); }
-    /// The signals since the last call.
-    std::string Signals() {
-        std::string text = signals_.join(", ").toStdString();
-        signals_.clear();
-        return text;
-    }
 
     TestProcess process;
     PlateWidget widget;
-
-  private:
-    void WriteDownSignals() {
-        const auto note = [this](auto signal, const char* name) {
-            QObject::connect(&widget, signal, [this, name](auto... arguments) {
-                QString text = name;
-                ((text += QString(" %1").arg(arguments)), ...);
-                signals_.append(text);
-            });
-        };
-        note(&PlateWidget::clicked, "clicked");
-        note(&PlateWidget::doubleClicked, "doubleClicked");
-        note(&PlateWidget::wellSelected, "wellSelected");
-        note(&PlateWidget::multipleWellsSelected, "multipleWellsSelected");
-        note(&PlateWidget::mousePressed, "mousePressed");
-        note(&PlateWidget::mouseReleased, "mouseReleased");
-        note(&PlateWidget::dragMoved, "dragMoved");
-    }
-
-    QStringList signals_;
 };
 
 } // namespace zorvane

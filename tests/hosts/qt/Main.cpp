@@ -6,5 +6,6 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    QApplication::setCursorFlashTime(0); // pictures show no cursor that blinks
     return RUN_ALL_TESTS();
 }

@@ -5,33 +5,6 @@
 
 namespace zorvane {
 
-namespace {
-
-/// The picture painted piece by piece.
-QImage PaintedInPieces(PlateWidget& widget, const QImage& like) {
-    QImage image(like.size(), like.format());
-    image.setDevicePixelRatio(like.devicePixelRatio());
-    image.fill(Qt::transparent);
-    constexpr int kPiece = 36; // falls on whole device pixels at every scale under test
-    for (int y = 0; y < widget.height(); y += kPiece) {
-        for (int x = 0; x < widget.width(); x += kPiece)
-            widget.render(&image, {x, y}, QRegion(x, y, kPiece, kPiece));
-    }
-    return image;
-}
-
-} // namespace
-
-TEST(PlateWidgetPainting, PiecesMakeUpTheWhole) {
-    Form form;
-    Plate& plate = form.widget.plate();
-    for (Integer well = 0; well < plate.TotalWells(); ++well)
-        plate.WellAnnotation(well, "A-" + std::to_string(well));
-    plate.SetWell(1, 1);
-    const QImage whole = form.Picture();
-    EXPECT_EQ(PaintedInPieces(form.widget, whole), whole);
-}
-
 TEST(PlateWidgetPainting, OutlinesLeaveNoTrace) {
     Form form;
     form.widget.plate().SelectBoxEnabled(true);
@@ -90,7 +63,7 @@ TEST(PlateWidgetPainting, AidsAndOutlinesLieOverThePlate) {
     form.widget.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&form.widget)) << "the focus ring needs it";
     form.widget.setFocus(Qt::TabFocusReason);
-    QTest::mouseMove(&form.widget, form.At(15));
+    form.MoveTo(form.At(15), Qt::NoButton);
     QString pictures = AsCharacters(form.Picture(), 4);
 
     form.widget.setAids({});

@@ -15,7 +15,7 @@
 namespace zorvane {
 
 /// Drives a PlateWidget through the events of its window and the desktop's own controls.
-class QtDriver final : public HostDriver {
+class QtDriver : public HostDriver {
   public:
     QtDriver() {
         process_.screen.twipsPerPixelX = static_cast<Single>(15 / widget_.devicePixelRatio());
@@ -99,6 +99,18 @@ class QtDriver final : public HostDriver {
         return {"outline", "focus", "size"};
     }
 
+  protected:
+    template <class Widget>
+    Widget* Named(const QString& name) const {
+        for (auto* child : widget_.findChildren<Widget*>())
+            if (child->accessibleName() == name && !child->isHidden()) return child;
+        return nullptr;
+    }
+
+    TestProcess process_;
+    PlateWidget widget_;
+    QPoint menuAt_; ///< where in the widget the last menu has opened
+
   private:
     static Qt::MouseButtons Buttons(Integer buttons) {
         return (buttons & kLeftButton ? Qt::LeftButton : Qt::NoButton) |
@@ -118,6 +130,7 @@ class QtDriver final : public HostDriver {
         QMouseEvent event(type, place, widget_.mapToGlobal(place),
                           static_cast<Qt::MouseButton>(static_cast<int>(Buttons(button))),
                           Buttons(buttons), Modifiers(shift));
+        widget_.setAttribute(Qt::WA_UnderMouse); // wherever the pointer is on this screen
         QApplication::sendEvent(&widget_, &event);
         ThrowFailure();
     }
@@ -152,6 +165,7 @@ class QtDriver final : public HostDriver {
     /// Answers the menu and then the question that are open; what cannot be chosen is dismissed.
     void Answer(Integer entry, const String& answer) {
         if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            menuAt_ = widget_.mapFromGlobal(menu->pos());
             auto* action = entry < 0 ? nullptr : menu->actions().at(entry);
             if (!action || !action->isEnabled()) return void(menu->close());
             menu->setActiveAction(action);
@@ -173,15 +187,7 @@ class QtDriver final : public HostDriver {
             if (child->text() == text) return child;
         return nullptr;
     }
-    template <class Widget>
-    Widget* Named(const QString& name) const {
-        for (auto* child : widget_.findChildren<Widget*>())
-            if (child->accessibleName() == name && !child->isHidden()) return child;
-        return nullptr;
-    }
 
-    TestProcess process_;
-    PlateWidget widget_;
     std::optional<RuntimeError> failure_;
     String asked_;
 };
