@@ -59,11 +59,20 @@ QString PlateWidgetPlugin::domXml() const {
 </ui>)");
 }
 
-QWidget* PlateWidgetPlugin::createWidget(QWidget* parent) { return new PlateWidget(parent); }
+QWidget* PlateWidgetPlugin::createWidget(QWidget* parent) {
+    auto* const plate = new PlateWidget(parent);
+    if (inDesigner_) {
+        // A form opens without questions on a machine that does not have the plate's library.
+        connect(plate, &PlateWidget::failed, plate,
+                [plate](int, const QString&, const QString& why) { plate->setToolTip(why); });
+    }
+    return plate;
+}
 
 void PlateWidgetPlugin::initialize(QDesignerFormEditorInterface* editor) {
     if (initialized_) return;
     initialized_ = true;
+    inDesigner_ = editor != nullptr;
     if (QExtensionManager* const manager = editor ? editor->extensionManager() : nullptr)
         manager->registerExtensions(new PlateTaskMenuFactory(manager),
                                     Q_TYPEID(QDesignerTaskMenuExtension));

@@ -27,6 +27,7 @@ class PlateWidgetPlugin final : public QObject, public QDesignerCustomWidgetInte
 
   private:
     bool initialized_ = false;
+    bool inDesigner_ = false; ///< not in a program that loads forms
 };
 
 } // namespace zorvane
