@@ -87,6 +87,7 @@ zorvane_library(Core
         drawing/Canvas.h
         drawing/Palette.h
         drawing/PlatePainter.h
+        drawing/PlatePicture.h
         drawing/SvgCanvas.h
         model/CompoundWell.h
         model/Coordinate.h
@@ -142,6 +143,7 @@ if(ZORVANE_BUILD_QT)
         DESCRIPTION "Plate diagram control as a Qt widget"
         FLOORS qt ${registry_floor}
         HEADERS
+            hosts/qt/PlateImage.h
             hosts/qt/PlateWidget.h
             hosts/qt/SettingsStore.h
         USES Zorvane::Core Qt6::Widgets

@@ -1,12 +1,12 @@
 #include "apps/viewer/Picture.h"
 
-#include "drawing/PlatePainter.h"
-#include "hosts/qt/PlateWidget.h"
+#include "drawing/PlatePicture.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtPalette.h"
 #include "hosts/qt/Units.h"
-#include "platform/Process.h"
+#include "runtime/RuntimeError.h"
 
+#include <QApplication>
 #include <QImageWriter>
 #include <QPainter>
 
@@ -21,57 +21,37 @@ constexpr int kRoomForLegends = 40;
 constexpr int kLeastHeight = 100;
 constexpr int kMargin = 8;
 
-/// Keeps what the control says instead of opening a box that nobody may be there to close.
-class KeptMessages final : public Process, public MessageDisplay {
-  public:
-    void Show(const Message& message) override { text = QString::fromStdString(message.prompt); }
-    MessageDisplay& Messages() override { return *this; }
-    Screen& TheScreen() override { return screen_; }
-    Registry& TheRegistry() override { return registry_; }
-
-    QString text;
-
-  private:
-    Screen screen_;
-    Registry registry_;
-};
-
-QImage PictureOf(PlateWidget& widget) {
-    const Plate& plate = widget.plate();
+QImage ImageOf(PlatePicture& picture) {
+    Plate& plate = picture.Control();
+    plate.HorizontalCentred = false;
+    plate.VerticalCentred = false;
     const double height = kWidth * double{plate.yOverall} / double{plate.xOverall};
-    widget.resize(kWidth,
-                  qRound(std::clamp<double>(height, kLeastHeight, kLongestSide)) + kRoomForLegends);
-    widget.setRefitOnResize(true); // fits the plate to the size at once
+    picture.FitInto(
+        ToUnits(kWidth),
+        ToUnits(qRound(std::clamp<double>(height, kLeastHeight, kLongestSide)) + kRoomForLegends));
     const QSize area = ToPixels(plate.Elements().fraPlate.box).toAlignedRect().size();
+    const QPalette palette = QApplication::palette();
     QImage image(area.grownBy({kMargin, kMargin, kMargin, kMargin}), QImage::Format_RGB32);
-    image.fill(widget.palette().color(QPalette::Window));
-    // Nobody can press the button in a picture.
-    Surface shown = plate.Elements();
-    shown.cmdData.visible = false;
+    image.fill(palette.color(QPalette::Window));
     QPainter painter(&image);
     painter.translate(kMargin, kMargin);
     ShapeImages images;
-    QtCanvas canvas(painter, images, widget.font(), QRect({}, area));
-    PaintControl(shown, SystemColors(widget.palette()), canvas);
+    QtCanvas canvas(painter, images, QApplication::font(), QRect({}, area));
+    picture.Paint(canvas, SystemColors(palette));
     return image;
 }
 
 } // namespace
 
 QString WritePicture(const QString& library, const QString& plateName, const QString& file) {
-    KeptMessages messages;
-    const InstalledProcess installed(messages);
-    PlateWidget widget;
-    QObject::connect(&widget, &PlateWidget::failed, &widget,
-                     [&](int, const QString&, const QString& text) { messages.text = text; });
-    widget.setFileName(library);
-    widget.setPlateName(plateName);
-    if (!messages.text.isEmpty()) return messages.text;
-
-    const QImage picture = PictureOf(widget);
-    if (!messages.text.isEmpty()) return messages.text;
-    QImageWriter writer(file);
-    return writer.write(picture) ? QString() : file + QStringLiteral(": ") + writer.errorString();
+    try {
+        PlatePicture picture({.plate = plateName.toStdString(), .library = library.toStdString()});
+        QImageWriter writer(file);
+        if (writer.write(ImageOf(picture))) return {};
+        return file + QStringLiteral(": ") + writer.errorString();
+    } catch (const RuntimeError& error) {
+        return QString::fromStdString(error.Description());
+    }
 }
 
 } // namespace zorvane::viewer

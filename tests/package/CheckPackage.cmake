@@ -75,6 +75,11 @@ execute_process(COMMAND "${programs}/terminal/plate_in_a_terminal" "${library}" 
     INPUT_FILE "${expected}/terminal-commands.txt" OUTPUT_FILE "${work}/terminal.txt")
 expect_file("${work}/terminal.txt" "${expected}/terminal.txt")
 
+execute_process(COMMAND "${programs}/picture/plate_picture" "${library}" Batch_24 picture.svg
+    WORKING_DIRECTORY "${work}" OUTPUT_FILE "${work}/places.txt")
+expect_file("${work}/places.txt" "${expected}/places.txt")
+expect_file("${work}/picture.svg" "${expected}/picture.svg")
+
 if(WITH_QT)
     execute_process(COMMAND "${programs}/instrument/plate_for_an_instrument" "${library}"
         OUTPUT_FILE "${work}/instrument.txt" ERROR_QUIET)

@@ -1,8 +1,8 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
-#include "apps/plate/draw/PlatePicture.h"
+#include "apps/plate/draw/ShownWellData.h"
 #include "control/WellNames.h"
-#include "platform/memory/MemorySite.h"
+#include "drawing/PlatePicture.h"
 #include "runtime/NumberText.h"
 
 #include <cstdio>
@@ -54,62 +54,60 @@ String CheckScale(const String& text) {
     return "\"" + text + "\" is not a number greater than 0";
 }
 
-/// One picture in the making: a control without a window.
+/// One picture in the making.
 class Drawing {
   public:
     explicit Drawing(const Options& options) : options_(options) {}
 
     /// False when the plate cannot be found, which has then been said.
     bool Load() {
-        const std::optional<Size> size = ParseSize(options_.size);
-        plate_.FixedSize = false;
-        plate_.DrawingScale(options_.scale);
-        if (!plate_.SetPlate(options_.plate, options_.plateLibrary)) return false;
-        if (!options_.data.empty()) keyHeight_ = ShownWellData::KeyHeight(plate_);
-        if (size) FitInto(*size);
+        Plate& plate = picture_.Control();
+        if (!plate.SetPlate(options_.plate, options_.plateLibrary)) return false;
+        if (!options_.data.empty()) keyHeight_ = ShownWellData::KeyHeight(plate);
+        if (const std::optional<Size> size = ParseSize(options_.size)) FitInto(*size);
         return true;
     }
 
-    String Picture() {
-        const WellNames names(plate_);
+    /// The picture as SVG; with data the key takes the lower end of its height.
+    String Svg() {
+        Plate& plate = picture_.Control();
+        const WellNames names(plate);
         for (const String& name : options_.selected) {
             const auto well = names.Find(name);
             if (!well) Fail("the plate has no well " + name);
-            plate_.SelectWell(*well, true);
+            plate.SelectWell(*well, true);
         }
-        std::optional<ShownWellData> data;
-        if (!options_.data.empty()) {
-            const String csv = ReadFile(options_.data);
-            data.emplace(WithFile(options_.data, [&] { return ShownWellData(plate_, csv); }));
-        }
-        const ShownWellData* const shown = data ? &*data : nullptr;
-        const Rect& frame = plate_.Elements().fraPlate.box;
-        return plate_.FixedSize
-                   ? PlatePicture(plate_, width_, height_, shown)
-                   : PlatePicture(plate_, frame.width, frame.height + keyHeight_, shown);
+        if (options_.data.empty()) return Paint(nullptr);
+        const String csv = ReadFile(options_.data);
+        const auto data = WithFile(options_.data, [&] { return ShownWellData(plate, csv); });
+        return Paint(&data);
     }
 
   private:
     void FitInto(Size size) {
-        width_ = static_cast<Single>(size.width * kTwipsPerPixel);
-        height_ = static_cast<Single>(size.height * kTwipsPerPixel);
-        if (height_ < keyHeight_ + kFewestPixels * kTwipsPerPixel)
+        const auto width = static_cast<Single>(size.width * kTwipsPerPixel);
+        const auto height = static_cast<Single>(size.height * kTwipsPerPixel);
+        if (height < keyHeight_ + kFewestPixels * kTwipsPerPixel)
             Fail("the size leaves no room for the plate next to the key of the data");
-        site_.SetSize(width_, height_ - keyHeight_);
-        plate_.FixedSize = true;
-        plate_.HorizontalCentred = true;
-        plate_.VerticalCentred = true;
-        // A layout fits the scale after it has sized the frame: a second one sizes it again.
-        for (int layouts = 0; layouts < 2; ++layouts)
-            plate_.DrawingScale(plate_.DrawingScale());
+        picture_.FitInto(width, height - keyHeight_);
+    }
+
+    String Paint(const ShownWellData* data) {
+        SvgPage page = picture_.Page();
+        const Rect key{0, page.area.height, page.area.width, keyHeight_};
+        page.area.height += keyHeight_;
+        SvgCanvas canvas(page);
+        picture_.Paint(canvas);
+        if (data) {
+            data->PaintSigns(picture_.Control().Elements(), canvas);
+            data->PaintKey(key, canvas);
+        }
+        return canvas.Finish();
     }
 
     const Options& options_;
+    PlatePicture picture_{options_.scale};
     Single keyHeight_ = 0;
-    Single width_ = 0;
-    Single height_ = 0;
-    MemorySite site_;
-    Plate plate_{site_};
 };
 
 /// The picture must not take the place of what it is drawn from.
@@ -132,7 +130,7 @@ ExitCode Run(const Options& options) {
         Fail(options.plate +
              " is too large to be drawn: choose a smaller scale, or check the library");
     }
-    WriteFile(options.output, drawing.Picture());
+    WriteFile(options.output, drawing.Svg());
     return kDone;
 }
 

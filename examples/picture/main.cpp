@@ -1,0 +1,48 @@
+// Prints where the positions of a plate are and writes a picture of it.
+//
+//   plate_picture LIBRARY PLATE PICTURE.svg
+
+#include <drawing/PlatePicture.h>
+#include <runtime/RuntimeError.h>
+
+#include <fstream>
+#include <iostream>
+
+namespace {
+
+void WritePicture(const std::string& library, const std::string& plate, const std::string& file) {
+    zorvane::PictureRequest request;
+    request.library = library;
+    request.plate = plate;
+    request.width = 640;
+    request.height = 440;
+    request.selected = {"A1", "A2", "B2"};
+    request.wells = {{.name = "C3", .color = 0x40C040, .caption = "7"}};
+    std::ofstream(file) << zorvane::DrawPlate(request);
+}
+
+void PrintPlaces(const std::string& library, const std::string& name) {
+    zorvane::PlatePicture picture({.plate = name, .library = library});
+    const zorvane::Plate& plate = picture.Control();
+    for (zorvane::Integer row = 0; row < plate.Rows; ++row) {
+        for (zorvane::Integer col = 0; col < plate.Cols; ++col) {
+            float x = 0, y = 0, z = 0;
+            plate.WellCentroid(x, y, z, row, col);
+            std::cout << plate.LoadedDefinition().WellLegend(row, col) << ": " << x << ", " << y
+                      << " mm\n";
+        }
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 4) return 2;
+    try {
+        PrintPlaces(argv[1], argv[2]);
+        WritePicture(argv[1], argv[2], argv[3]);
+    } catch (const zorvane::RuntimeError& error) {
+        std::cerr << error.Description() << '\n';
+        return 1;
+    }
+}
