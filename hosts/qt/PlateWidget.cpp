@@ -4,11 +4,9 @@
 #include "hosts/qt/Units.h"
 #include "hosts/qt/accessible/PlateAccessible.h"
 #include "hosts/qt/widget/PlateWidgetParts.h"
-#include "hosts/qt/widget/QuietLoad.h"
 
 #include <QHelpEvent>
 #include <QMetaMethod>
-#include <QPointer>
 
 namespace zorvane {
 
@@ -39,22 +37,15 @@ void PlateWidget::setMessageHandler(MessageHandler handler) {
     QtMessages::handler = std::move(handler);
 }
 
+bool PlateWidget::ReportsFailures() const {
+    return isSignalConnected(QMetaMethod::fromSignal(&PlateWidget::failed));
+}
+
 bool PlateWidget::load(const QString& plateName, const QString& library, QString* why) {
-    const QPointer<PlateWidget> shown(this);
     const auto hosted = d_->hosted; // a slot may destroy the widget
-    const String name = plateName.toStdString();
-    const String file = library.toStdString();
-    if (!why && !isSignalConnected(QMetaMethod::fromSignal(&PlateWidget::failed))) {
-        bool loaded = false;
-        d_->steps.Run([&] { loaded = hosted->plate.SetPlate(name, file); });
-        if (shown) d_->observer.TellProperties();
-        return loaded;
-    }
-    const auto failure = QuietLoad::Run(hosted->plate, name, file);
-    if (why) *why = failure ? failure->reason : QString();
-    if (shown) d_->observer.TellProperties();
-    if (shown && failure && !why) emit failed(failure->number, failure->source, failure->reason);
-    return !failure;
+    return d_->Load(
+        [&] { return hosted->plate.SetPlate(plateName.toStdString(), library.toStdString()); },
+        why);
 }
 
 QSize PlateWidget::sizeHint() const { return d_->sizing.Asked(); }

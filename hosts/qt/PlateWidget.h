@@ -367,8 +367,9 @@ class ZORVANE_EXPORT PlateWidget : public QWidget {
     void setDetailsDetached(bool on);
     void resetDetailsDetached() { setDetailsDetached(false); }
     /// The detached details panel, or null. A tool window that is open while dataVisible, until the
-    /// host puts it into a layout or a dock: there it always shows the plate's details. It goes
-    /// with whichever of this widget and its place in the host goes first.
+    /// host puts it into a layout or a dock: there it always shows the plate's details, and the
+    /// button that would open it is hidden. It goes with this widget. Where its place in the host
+    /// goes first, the details are back in this widget.
     QWidget* detailsPanel() const;
 
     // Wells by number and by name.
@@ -590,9 +591,11 @@ class ZORVANE_EXPORT PlateWidget : public QWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    friend class StepRunner; // asks whether failed() is connected
     struct Parts;
+    friend class StepRunner;
 
+    /// Whether somebody hears of failures.
+    bool ReportsFailures() const;
     QColor ShownColor(Long color) const;
 
     Parts* d_ = nullptr;

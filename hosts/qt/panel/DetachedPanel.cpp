@@ -21,10 +21,9 @@ bool DetachedPanel::event(QEvent* event) {
     return done;
 }
 
-// The control closes it.
 void DetachedPanel::closeEvent(QCloseEvent* event) {
-    event->ignore();
     emit closed();
+    event->accept();
 }
 
 } // namespace zorvane

@@ -24,8 +24,8 @@ QString WithoutMnemonic(QString text) {
     return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
-void ShowButton(QPushButton& shown, const Button& button, int shift) {
-    shown.setGeometry(InView(button.box).translated(shift, 0));
+void ShowButton(QPushButton& shown, const Button& button, QPoint shift) {
+    shown.setGeometry(InView(button.box).translated(shift));
     shown.setText(ControlText(button.caption));
     shown.setEnabled(button.enabled);
     shown.setVisible(button.visible);

@@ -30,8 +30,8 @@ void SetColor(QWidget& widget, QPalette::ColorRole role, const QColor& color);
 /// A text in which every "&" is shown as it is.
 QString WithoutMnemonic(QString text);
 
-/// Shows a button that many pixels further right than it is designed.
-void ShowButton(QPushButton& shown, const Button& button, int shift);
+/// Shows a button that many pixels away from where it is designed.
+void ShowButton(QPushButton& shown, const Button& button, QPoint shift);
 /// Shows a list that many pixels wider than it is designed. Changes only the entries that differ;
 /// emits nothing.
 void ShowDropDown(QComboBox& shown, const DropDown& list, int wider);

@@ -23,6 +23,8 @@ constexpr const char* kThinScrollBar =
     "}"
     "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }";
 
+constexpr int kTitleGap = 3; ///< from the title of a detached panel to its contents
+
 } // namespace
 
 PanelMirror::PanelMirror(QWidget& host, Plate& plate, StepRunner& steps)
@@ -61,21 +63,22 @@ void PanelMirror::Detach(bool on) {
     }
     detached_ = new DetachedPanel(host_);
     frame_.setParent(detached_);
-    connect(detached_, &DetachedPanel::placed, this, &PanelMirror::Sync);
+    connect(detached_, &DetachedPanel::placed, this, &PanelMirror::Moved);
     connect(detached_, &DetachedPanel::closed, this, &PanelMirror::Close);
     connect(detached_, &DetachedPanel::going, this, &PanelMirror::BringBack);
-    Sync();
+    Moved();
 }
 
 void PanelMirror::BringBack() {
     detached_.clear();
     frame_.setParent(&host_);
     frame_.lower(); // leaves room for the data button
-    Sync();
+    Moved();
 }
 
-bool PanelMirror::IsShown() const {
-    return (detached_ && !detached_->isWindow()) || plate_.Elements().fraData.visible;
+void PanelMirror::Moved() {
+    Sync();
+    emit moved();
 }
 
 void PanelMirror::NameControls() {
@@ -156,12 +159,14 @@ void PanelMirror::ShowAll() {
     if (frame_.font() != font) frame_.setFont(font);
     font.setPixelSize(font.pixelSize() - 1);
     if (style_.font() != font) style_.setFont(font);
-    ShowDropDown(pages_, Elements().comboSelect, Widening());
+    ShowDropDown(pages_, Elements().comboSelect, Extra().width());
     ShowComment(colors);
-    if (rows_.Show(Elements(), colors, Widening())) OrderTabs();
+    if (rows_.Show(Elements(), colors, Extra().width())) OrderTabs();
     ShowStyle(colors);
-    ShowButton(menu_, Elements().cmdPopup, Widening());
-    ShowButton(apply_, Elements().cmdApply, Widening() / 2);
+    const QSize extra = Extra();
+    ShowButton(menu_, Elements().cmdPopup, {extra.width(), 0});
+    ShowButton(apply_, Elements().cmdApply,
+               {extra.width() / 2, Elements().txtComment.visible ? extra.height() : 0});
     FitContents();
     PlaceFrame(colors);
     frame_.show();
@@ -173,15 +178,15 @@ QSize PanelMirror::DesignedSize() const {
     return ToPixels(frame.box).toRect().size();
 }
 
-int PanelMirror::Widening() const {
-    return detached_ ? std::max(0, detached_->width() - DesignedSize().width()) : 0;
+QSize PanelMirror::Extra() const {
+    return detached_ ? (detached_->size() - DesignedSize()).expandedTo({0, 0}) : QSize(0, 0);
 }
 
 void PanelMirror::ShowComment(const SystemPalette& colors) {
     const TextBox& box = Elements().txtComment;
     const QString text = ShownComment(box.text);
     const QSignalBlocker silent(comment_);
-    comment_.setGeometry(InView(box.box, Widening()));
+    comment_.setGeometry(InView(box.box, Extra().width()).adjusted(0, 0, 0, Extra().height()));
     SetColor(comment_, QPalette::Base, ToColor(Resolve(box.back, colors)));
     // Not disabled: a comment that can't be edited can still be scrolled and copied.
     comment_.setReadOnly(!box.enabled);
@@ -192,7 +197,7 @@ void PanelMirror::ShowComment(const SystemPalette& colors) {
 
 void PanelMirror::ShowStyle(const SystemPalette& colors) {
     const PanelElements& panel = Elements();
-    ShowDropDown(style_, panel.cmbStyle, Widening());
+    ShowDropDown(style_, panel.cmbStyle, Extra().width());
     preview_.Show(panel.StyleRim, panel.StyleWell, colors);
     preview_.setGeometry(InView(panel.StyleRim.box));
     preview_.setVisible(panel.StyleRim.visible);
@@ -215,7 +220,7 @@ void PanelMirror::FitContents() {
         if (widget && !widget->isHidden())
             used.setBottom(std::max(used.bottom(), widget->geometry().bottom()));
     }
-    contents_.resize(used.width() + Widening(), used.height());
+    contents_.resize(used.width() + Extra().width(), used.height());
 }
 
 // Where the widget is lower than the panel, the panel ends with it and scrolls.
@@ -238,8 +243,9 @@ void PanelMirror::PlaceFrame(const SystemPalette& colors) {
     QRect view = ToPixels({container.left, container.top + kEmptyTop, container.width,
                            container.height - kEmptyTop})
                      .toRect();
-    view.setWidth(view.width() + Widening());
+    view.setWidth(view.width() + Extra().width());
     view.setBottom(detached_ ? place.height() - 3 : std::min(view.bottom(), place.height() - 3));
+    if (detached_) view.setTop(PanelFrame::kTitleHeight + kTitleGap); // no data button there
     view_.setGeometry(view);
 }
 

@@ -33,8 +33,9 @@ class PanelMirror final : public QObject {
     void Detach(bool on);
     /// That widget, or null.
     QWidget* Detached() const { return detached_; }
-    /// Whether the operator can see it: where the host has put it in a place of its own, always.
-    bool IsShown() const;
+    /// Whether the host has put that widget into a place, where it is not opened and closed.
+    bool IsPlaced() const { return detached_ && !detached_->isWindow(); }
+    bool IsShown() const { return IsPlaced() || plate_.Elements().fraData.visible; }
 
     /// Takes over what has changed, and only that: a text box keeps its cursor, its selection and
     /// its undo history while it stays visible for the same property with the same text.
@@ -61,11 +62,14 @@ class PanelMirror final : public QObject {
   signals:
     /// The control has changed something in the panel; comes once for each step, after it.
     void changed();
+    /// The panel has another place.
+    void moved();
 
   private:
     void Settle();
     const PanelElements& Elements() const { return plate_.Elements().panel; }
     void BringBack();
+    void Moved();
     void NameControls();
     void Connect();
     void PressApply();
@@ -73,15 +77,14 @@ class PanelMirror final : public QObject {
     bool HoldsFocus() const;
 
     void ShowAll();
-    /// How much wider than designed the panel is, in pixels.
-    int Widening() const;
+    QSize DesignedSize() const;
+    /// How much larger than designed the panel is.
+    QSize Extra() const;
     void ShowComment(const SystemPalette& colors);
     void ShowStyle(const SystemPalette& colors);
     void OrderTabs();
     void FitContents();
     void PlaceFrame(const SystemPalette& colors);
-
-    QSize DesignedSize() const;
 
     QWidget& host_;
     Plate& plate_;

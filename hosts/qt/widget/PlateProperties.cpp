@@ -1,6 +1,7 @@
 #include "control/SavedSettings.h"
 #include "hosts/qt/SettingsStore.h"
 #include "hosts/qt/widget/PlateWidgetParts.h"
+#include "runtime/Text.h"
 
 #include <QFileInfo>
 #include <QRect>
@@ -97,8 +98,12 @@ void PlateWidget::saveSettings(QSettings& settings) const {
 
 void PlateWidget::restoreSettings(QSettings& settings) {
     const SettingsStore store(settings);
-    d_->steps.Run([&] { plate().RestoreProperties(store); });
-    d_->observer.TellProperties();
+    const auto hosted = d_->hosted; // a slot may destroy the widget
+    d_->Load([&] {
+        hosted->plate.RestoreProperties(store);
+        return EqualNoCase(hosted->plate.LoadedDefinition().PlateName(),
+                           saved::Read(store, saved::kPlateName));
+    });
 }
 
 bool PlateWidget::fixedSize() const { return plate().FixedSize; }

@@ -1,12 +1,16 @@
 #include "hosts/qt/widget/PlateWidgetParts.h"
 
+#include "hosts/qt/widget/QuietLoad.h"
+
+#include <QPointer>
+
 namespace zorvane {
 
 PlateWidget::Parts::Parts(PlateWidget& owner)
     : widget(owner), hosted(std::make_shared<HostedPlate>(owner)), plate(hosted->plate),
       steps(owner, hosted), painter(owner, *hosted, steps),
       input(owner, plate, painter, steps, observer), dataButton(owner), panel(owner, plate, steps),
-      sizing(owner, plate, panel, steps), observer(owner, plate) {
+      sizing(owner, plate, panel, steps), names(plate), observer(owner, plate) {
     firstFileName = plate.FileName;
     ConnectSite();
     connect(&panel, &PanelMirror::changed, &dataButton, [this] {
@@ -16,8 +20,7 @@ PlateWidget::Parts::Parts(PlateWidget& owner)
     connect(&panel, &PanelMirror::changed, &widget, &PlateWidget::panelChanged);
     connect(&dataButton, &QPushButton::clicked, &dataButton,
             [this] { steps.Run([this] { plate.DataButtonPressed(); }); });
-    // The first to hear of it, so that whoever else does asks for the new names.
-    connect(&widget, &PlateWidget::plateChanged, &dataButton, [this] { names_.reset(); });
+    connect(&panel, &PanelMirror::moved, &dataButton, [this] { ShowDataButton(); });
     ShowDataButton();
     dataButton.raise(); // the panel leaves room for it
 }
@@ -34,9 +37,26 @@ void PlateWidget::Parts::ConnectSite() {
     connect(&site, &QtSite::panelChanged, &panel, &PanelMirror::Changed);
 }
 
-const WellNames& PlateWidget::Parts::Names() {
-    if (!names_) names_.emplace(plate);
-    return *names_;
+bool PlateWidget::Parts::Load(const std::function<bool()>& step, QString* why) {
+    const QPointer<PlateWidget> shown(&widget); // a slot may destroy it
+    bool loaded = false;
+    if (why || widget.ReportsFailures()) {
+        const auto failure = QuietLoad::Run(step);
+        loaded = !failure;
+        if (why) *why = failure ? failure->reason : QString();
+        if (shown && failure && !why)
+            emit shown->failed(failure->number, failure->source, failure->reason);
+    } else {
+        steps.Run([&] { loaded = step(); });
+    }
+    if (shown) observer.TellProperties();
+    return loaded;
+}
+
+// Where the host has given the panel a place, there is nothing to open.
+void PlateWidget::Parts::ShowDataButton() {
+    dataButton.Show(plate.Elements().cmdData);
+    if (panel.IsPlaced()) dataButton.hide();
 }
 
 } // namespace zorvane

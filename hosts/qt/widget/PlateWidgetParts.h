@@ -1,6 +1,5 @@
 #pragma once
 
-#include "control/WellNames.h"
 #include "hosts/qt/PlateWidget.h"
 #include "hosts/qt/QtPalette.h"
 #include "hosts/qt/WidgetPainter.h"
@@ -10,12 +9,13 @@
 #include "hosts/qt/panel/PanelText.h"
 #include "hosts/qt/widget/PlateSignals.h"
 #include "hosts/qt/widget/PlateSizing.h"
+#include "hosts/qt/widget/ShownNames.h"
 #include "runtime/Checked.h"
 #include "runtime/Rounding.h"
 #include "runtime/RuntimeError.h"
 
+#include <functional>
 #include <memory>
-#include <optional>
 #include <type_traits>
 
 namespace zorvane {
@@ -61,10 +61,11 @@ struct PlateWidget::Parts {
         emit widget.currentWellDataChanged();
     }
 
-    /// The names of the wells that are shown.
-    const WellNames& Names();
+    /// Loads a plate by a step that returns whether that worked. With `why`, the reason why not
+    /// goes there, else it is reported.
+    bool Load(const std::function<bool()>& step, QString* why = nullptr);
 
-    void ShowDataButton() { dataButton.Show(plate.Elements().cmdData); }
+    void ShowDataButton();
 
     PlateWidget& widget;
     String firstFileName; ///< the library of a new control
@@ -78,6 +79,7 @@ struct PlateWidget::Parts {
     DetailsButton dataButton;
     PanelMirror panel;
     PlateSizing sizing;
+    ShownNames names; ///< hears of a new plate before whoever asks for its names
     PlateSignals observer;
 
   private:
@@ -96,8 +98,6 @@ struct PlateWidget::Parts {
             return value;
         }
     }
-
-    std::optional<WellNames> names_; ///< of the present layout
 };
 
 } // namespace zorvane

@@ -29,12 +29,11 @@ class KeptMessages final : public MessageDisplay {
 
 } // namespace
 
-std::optional<QuietLoad::Failure> QuietLoad::Run(Plate& plate, const String& name,
-                                                 const String& library) {
+std::optional<QuietLoad::Failure> QuietLoad::Run(const std::function<bool()>& load) {
     KeptMessages kept;
     try {
         const TakenMessages taken(kept);
-        if (!plate.SetPlate(name, library)) {
+        if (!load()) {
             // The control says nothing where it has nothing to look for.
             return Failure{
                 0, {}, kept.Any() ? kept.Last() : tr("No plate or no library is named.")};

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "control/Plate.h"
-
 #include <QCoreApplication>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace zorvane {
@@ -20,8 +19,8 @@ class QuietLoad final {
         QString reason;
     };
 
-    /// Returns why the plate could not be loaded, if so.
-    static std::optional<Failure> Run(Plate& plate, const String& name, const String& library);
+    /// Returns why a plate could not be loaded, if so; `load` returns whether it could.
+    static std::optional<Failure> Run(const std::function<bool()>& load);
 };
 
 } // namespace zorvane

@@ -5,8 +5,6 @@
 #include "platform/Process.h"
 #include "runtime/RuntimeError.h"
 
-#include <QMetaMethod>
-
 namespace zorvane {
 
 QObject* StepRunner::AsObject() const { return &widget_; }
@@ -15,7 +13,7 @@ void StepRunner::Report(const std::exception& error) {
     const auto* const ours = dynamic_cast<const RuntimeError*>(&error);
     const QString description =
         ours ? ControlText(ours->Description()) : QString::fromLocal8Bit(error.what());
-    if (widget_.isSignalConnected(QMetaMethod::fromSignal(&PlateWidget::failed))) {
+    if (widget_.ReportsFailures()) {
         const int number = ours ? ours->Number() : 0; // 0: thrown by a slot of the host
         const QString source = ours ? QString::fromStdString(ours->Source()) : QString();
         emit widget_.failed(number, source, description);

@@ -13,15 +13,15 @@ namespace zorvane {
 // Wells by number and by name.
 
 QString PlateWidget::wellName(int wellNo) const {
-    return Parts::Answer([&] { return ShownText(d_->Names().Name(Checked(wellNo))); });
+    return Parts::Answer([&] { return ShownText(d_->names.Get().Name(Checked(wellNo))); });
 }
 
 QString PlateWidget::wellCaption(int wellNo) const {
-    return Parts::Answer([&] { return ShownText(d_->Names().Full(Checked(wellNo))); });
+    return Parts::Answer([&] { return ShownText(d_->names.Get().Full(Checked(wellNo))); });
 }
 
 int PlateWidget::wellNumber(const QString& name) const {
-    return d_->Names().Find(name.toStdString()).value_or(Integer{-1});
+    return d_->names.Get().Find(name.toStdString()).value_or(Integer{-1});
 }
 
 int PlateWidget::wellAt(QPointF position) const { return d_->input.WellAt(position); }
