@@ -6,7 +6,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <iterator>
+#include <span>
 
 namespace zorvane {
 
@@ -67,12 +67,6 @@ constexpr const char* kTexts[] = {
     QT_TRANSLATE_NOOP("zorvane::Plate", "X Shift"),
     QT_TRANSLATE_NOOP("zorvane::Plate", "Y Shift"),
     QT_TRANSLATE_NOOP("zorvane::Plate", "Z Shift"),
-    QT_TRANSLATE_NOOP("zorvane::Plate", "Enter distance in mm to shift all subwell centers\r\n"
-                                        "+ve value shifts right"),
-    QT_TRANSLATE_NOOP("zorvane::Plate", "Enter distance in mm to shift all subwell centers\r\n"
-                                        "+ve value shifts down"),
-    QT_TRANSLATE_NOOP("zorvane::Plate", "Enter distance in mm to shift bottoms of all subwells\r\n"
-                                        "+ve value shifts up"),
     // Failures.
     QT_TRANSLATE_NOOP("zorvane::Plate", "Invalid procedure call or argument"),
     QT_TRANSLATE_NOOP("zorvane::Plate", "Overflow"),
@@ -84,6 +78,16 @@ constexpr const char* kTexts[] = {
     QT_TRANSLATE_NOOP("zorvane::Plate", "Object variable not set"),
     QT_TRANSLATE_NOOP("zorvane::Plate",
                       "This key is already associated with an element of this collection"),
+};
+
+/// Questions of more than one line.
+constexpr const char* kQuestions[] = {
+    QT_TRANSLATE_NOOP("zorvane::Plate", "Enter distance in mm to shift all subwell centers\r\n"
+                                        "+ve value shifts right"),
+    QT_TRANSLATE_NOOP("zorvane::Plate", "Enter distance in mm to shift all subwell centers\r\n"
+                                        "+ve value shifts down"),
+    QT_TRANSLATE_NOOP("zorvane::Plate", "Enter distance in mm to shift bottoms of all subwells\r\n"
+                                        "+ve value shifts up"),
 };
 
 /// Texts around something that the control has put in.
@@ -115,15 +119,25 @@ QString Filled(const char* pattern, const QString& text) {
                                          : translated.arg(match.captured(1));
 }
 
+/// The text as the control has it, or null where it is not the control's.
+const char* OwnText(const String& text) {
+    for (const auto& texts :
+         {std::span<const char* const>(kTexts), std::span<const char* const>(kQuestions)}) {
+        const auto own = std::find(texts.begin(), texts.end(), text);
+        if (own != texts.end()) return *own;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 QString ControlText(const String& text) {
-    const auto* const own = std::find(std::begin(kTexts), std::end(kTexts), text);
-    if (own != std::end(kTexts)) return Translated(*own);
-    const QString shown = ShownText(text);
+    if (const char* const own = OwnText(text)) return Translated(own);
+    QString shown = ShownText(text);
     for (const char* const pattern : kPatterns) {
         if (Translated(pattern) == QLatin1String(pattern)) continue; // there is no translation
-        if (const QString filled = Filled(pattern, shown); !filled.isNull()) return filled;
+        QString filled = Filled(pattern, shown);
+        if (!filled.isNull()) return filled;
     }
     return shown;
 }

@@ -463,7 +463,7 @@ class ZORVANE_EXPORT PlateWidget : public QWidget {
     /// The size that the control last asked for.
     QSize sizeHint() const override;
 
-  public slots:
+  public slots: // NOLINT(readability-redundant-access-specifiers): for the meta-object
     /// Loads the plate of that name from fileName.
     void setPlateName(const QString& name);
     /// Shows a plate by its definition text.
