@@ -5,6 +5,21 @@
 
 namespace zorvane {
 
+namespace {
+
+/// Selects a well; where others stay selected, deselects one that is.
+void Select(const QPointer<PlateWidget>& widget, int well, bool keepOthers) {
+    QList<int> wells{well};
+    if (keepOthers) {
+        wells = widget->selectedWells();
+        if (wells.removeAll(well) == 0) wells += well;
+    }
+    widget->setSelectedWells(wells);
+    if (widget) emit widget->selectionAided();
+}
+
+} // namespace
+
 WellAccessible::WellAccessible(PlateWidget& widget, Integer well) : widget_(&widget), well_(well) {}
 
 bool WellAccessible::isValid() const { return widget_ && well_ < widget_->plate().TotalWells(); }
@@ -63,21 +78,11 @@ QStringList WellAccessible::actionNames() const {
 
 void WellAccessible::doAction(const QString& name) {
     if (!actionNames().contains(name)) return;
-    const QPointer<PlateWidget> widget = widget_;
-    widget->setCurrentWell(well_);
+    const QPointer<PlateWidget> widget = widget_; // a slot may destroy it, and this object with it
+    const int well = well_;
+    widget->setCurrentWell(well);
     if (widget) widget->setFocus(Qt::OtherFocusReason);
-    if (widget && name != setFocusAction()) Select(name == toggleAction());
-}
-
-void WellAccessible::Select(bool keepOthers) {
-    const QPointer<PlateWidget> widget = widget_;
-    QList<int> wells{well_};
-    if (keepOthers) {
-        wells = widget->selectedWells();
-        if (wells.removeAll(well_) == 0) wells += well_;
-    }
-    widget->setSelectedWells(wells);
-    if (widget) emit widget->selectionAided();
+    if (widget && name != setFocusAction()) Select(widget, well, name == toggleAction());
 }
 
 } // namespace zorvane

@@ -39,8 +39,6 @@ class WellAccessible final : public QAccessibleInterface, public QAccessibleActi
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
   private:
-    void Select(bool keepOthers);
-
     QPointer<PlateWidget> widget_;
     Integer well_;
 };
