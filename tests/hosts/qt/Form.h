@@ -2,7 +2,6 @@
 
 #include "Test.h"
 #include "hosts/qt/PlateWidget.h"
-#include "hosts/qt/Units.h"
 
 #include <QImage>
 #include <QPushButton>
@@ -33,33 +32,18 @@ struct Form {
     }
 
     /// Where the middle of a well's rim is, in the widget.
-    QPoint At(int well) const {
-        const Surface& surface = widget.plate().Elements();
-        const Rect& rim = surface.WellRim[static_cast<std::size_t>(well)].box;
-        return ToPixels(rim.Moved(surface.fraPlate.box.left, surface.fraPlate.box.top))
-            .center()
-            .toPoint();
-    }
+    QPoint At(int well) const { return widget.wellRect(well).center().toPoint(); }
 
     void Press(int well, Qt::KeyboardModifiers keys = {}) {
         QTest::mousePress(&widget, Qt::LeftButton, keys, At(well));
     }
     void MoveTo(int well) { MoveTo(At(well)); }
-    void MoveTo(QPoint place, Qt::MouseButtons buttons = Qt::LeftButton) {
+    void MoveTo(QPoint place) {
         QMouseEvent event(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton,
-                          buttons, {});
+                          Qt::LeftButton, {});
         QApplication::sendEvent(&widget, &event);
     }
     void Release(int well) { QTest::mouseRelease(&widget, Qt::LeftButton, {}, At(well)); }
-
-    /// Leaves pictures without what fonts and styles draw in many ways.
-    void HideTexts() {
-        QPalette palette(QColor(0xD0, 0xD0, 0xD0));
-        palette.setColor(QPalette::ButtonText, palette.color(QPalette::Button));
-        palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Highlight));
-        widget.setPalette(palette);
-        widget.findChild<QPushButton*>()->hide();
-    }
 
     QImage Picture() { return widget.grab().toImage(); }
 

@@ -1,5 +1,4 @@
 #include "Form.h"
-#include "Golden.h"
 
 #include <QPainter>
 
@@ -48,32 +47,6 @@ TEST(PlateWidgetPainting, OutlinesStayWholeWhenTheHostPaintsDuringTheGesture) {
     EXPECT_EQ(form.Picture(), dragged);
     form.Release(8);
     EXPECT_EQ(form.Picture(), before);
-}
-
-TEST(PlateWidgetPainting, AidsAndOutlinesLieOverThePlate) {
-    Form form;
-    if (form.widget.devicePixelRatio() != 1) GTEST_SKIP() << "the pictures have one pixel a pixel";
-    form.HideTexts();
-    Plate& plate = form.widget.plate();
-    plate.ErrorCode(8, 3);
-    plate.IsDefined(8, true);
-    plate.ErrorCode(9, 3); // not defined
-    plate.WellFill(25, 0xFFFFFF);
-    form.widget.setAids(PlateWidget::Aid::ErrorMarks | PlateWidget::Aid::HighlightLegends);
-    form.widget.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&form.widget)) << "the focus ring needs it";
-    form.widget.setFocus(Qt::TabFocusReason);
-    form.MoveTo(form.At(15), Qt::NoButton);
-    QString pictures = AsCharacters(form.Picture(), 4);
-
-    form.widget.setAids({});
-    form.widget.setDragDrop(true);
-    form.Press(1);
-    form.Release(1);
-    form.Press(1);
-    form.MoveTo(form.At(1) + QPoint(30, 20));
-    pictures += AsCharacters(form.Picture().copy({form.At(1) - QPoint(20, 20), QSize(80, 60)}));
-    ExpectGolden(pictures, "plate-overlays");
 }
 
 TEST(PlateWidgetPainting, OnlyTheChangedWellIsPaintedAgain) {

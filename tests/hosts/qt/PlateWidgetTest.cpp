@@ -1,44 +1,10 @@
 #include "Form.h"
 
-#include <QHBoxLayout>
 #include <QSignalSpy>
 
 #include <stdexcept>
 
 namespace zorvane {
-
-TEST(PlateWidget, LeavesItsSizeToALayoutThatHoldsIt) {
-    const TestProcess process;
-    QWidget window;
-    auto* outer = new QVBoxLayout(&window);
-    auto* inner = new QHBoxLayout;
-    outer->addLayout(inner);
-    auto* widget = new PlateWidget;
-    inner->addWidget(widget);
-    window.resize(700, 500);
-    window.show();
-    const QSize given = widget->size();
-    widget->plate().FixedSize = false;
-    widget->plate().PlateClassText(kPlateText);
-    EXPECT_EQ(widget->size(), given);
-    EXPECT_EQ(widget->sizeHint(), QSize(234, 175));
-}
-
-TEST(PlateWidget, LoadsFromItsLibraryAndSaysWhenItCannot) {
-    TestProcess process;
-    const TempFile library(std::string(kPlateText) + "PLATE Other\r\nROWS 1\r\nCOLS 1\r\n");
-    PlateWidget widget;
-    widget.setFileName(QString::fromStdString(library.Path()));
-    widget.setPlateName("demo");
-    EXPECT_EQ(widget.plateName(), "Demo");
-    EXPECT_EQ(widget.plate().TotalWells(), 48);
-
-    process.messages.onUnexpected = nullptr;
-    widget.setPlateName("missing");
-    ASSERT_EQ(process.messages.shown.size(), 1U);
-    EXPECT_NE(process.messages.shown[0].prompt.find("missing"), String::npos);
-    EXPECT_EQ(widget.plateName(), "Demo");
-}
 
 TEST(PlateWidget, ANewOneLoadsTheFirstPlateOnceShown) {
     TestProcess process;

@@ -2,6 +2,7 @@
 
 #include "Form.h"
 #include "behaviour/HostDriver.h"
+#include "hosts/qt/Units.h"
 
 #include <QComboBox>
 #include <QInputDialog>

@@ -23,7 +23,13 @@ class SignalLog : public QObject {
     }
 
     /// The signals since the last call, with their arguments.
-    QString Take() { return std::exchange(names_, {}).join(", "); }
+    QString Take() {
+        for (const auto& [signal, spy] : spies_)
+            spy->clear();
+        return std::exchange(names_, {}).join(", ");
+    }
+    /// Whether a signal has come since then.
+    bool Has(int signal) const { return !spies_.at(signal)->isEmpty(); }
 
   private slots:
     void Note() {

@@ -11,6 +11,8 @@
 #include <QSignalSpy>
 #include <QToolTip>
 
+#include <array>
+#include <iomanip>
 #include <optional>
 
 namespace zorvane {
@@ -23,6 +25,7 @@ class WidgetDriver final : public QtDriver {
         process_.messages.onUnexpected = [this](const Message& box) { message_ = box.prompt; };
         EXPECT_TRUE(QTest::qWaitForWindowActive(&widget_));
         widget_.setFocus();
+        Unannounced();
     }
 
     std::optional<String> RunOwn(const String& name, const String& words) override {
@@ -38,12 +41,19 @@ class WidgetDriver final : public QtDriver {
         };
         const QString all = QString::fromStdString(words);
         if (name == "set") {
+            const QMetaProperty property = PropertyNamed(first);
             const QString value = rest();
-            const QVariant none(PropertyNamed(first).metaType());
-            EXPECT_TRUE(PropertyNamed(first).write(&widget_, value.isEmpty() ? none : value))
+            EXPECT_TRUE(property.write(&widget_, property.isFlagType() && !value.isEmpty()
+                                                     ? value
+                                                     : ValueOf(value, property.metaType())))
                 << words;
         } else if (name == "reset") {
             EXPECT_TRUE(PropertyNamed(first).reset(&widget_)) << words;
+        } else if (name == "call") {
+            QStringList texts;
+            for (String word; stream >> std::quoted(word);)
+                texts += QString::fromStdString(word);
+            return Call(text, texts);
         } else if (name == "keys") {
             const QKeyCombination keys = QKeySequence(all)[0];
             QTest::keyClick(&Focus(), keys.key(), keys.keyboardModifiers());
@@ -52,8 +62,6 @@ class WidgetDriver final : public QtDriver {
         } else if (name == "focus") {
             if (words == "nothing") return widget_.clearFocus(), "";
             (words.empty() ? &widget_ : Named<QWidget>(all))->setFocus();
-        } else if (name == "undo") {
-            Named<QLineEdit>(all)->undo();
         } else if (name == "wheel") {
             auto* const list = Named<QWidget>(all);
             QWheelEvent turn({5, 5}, list->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
@@ -76,10 +84,13 @@ class WidgetDriver final : public QtDriver {
             QApplication::sendEvent(&widget_, &leave);
         } else if (name == "resize") {
             widget_.resize(number(), rest().toInt());
-        } else if (name == "italics") {
-            QFont font = widget_.font();
-            font.setItalic(first == "on");
-            widget_.setFont(font);
+        } else if (name == "hide-texts") {
+            HideTexts();
+        } else if (name == "picture") {
+            int x = number(), y = 0, width = 0, height = 0, step = 1;
+            stream >> y >> width >> height >> step;
+            const QImage picture = widget_.grab({x, y, width, height}).toImage();
+            if (picture.devicePixelRatio() == 1) picture_ = AsCharacters(picture, step);
         } else if (name == "describe") {
             described_ = QAccessible::queryAccessibleInterface(&widget_)->child(number());
         } else {
@@ -96,6 +107,7 @@ class WidgetDriver final : public QtDriver {
             all[name.toStdString()] = text.replace('\n', " | ").toStdString();
         };
         show("stale", QTest::qWaitFor([&] { return !IsStale(); }, 200) ? "" : "yes");
+        show("unannounced", Unannounced().join(' '));
         show("signals", signals_.Take());
         show("message", QString::fromStdString(std::exchange(message_, {})));
         for (int i = Class().propertyOffset(); i < Class().propertyCount(); ++i)
@@ -110,17 +122,65 @@ class WidgetDriver final : public QtDriver {
         show("focus on", !focus ? "nothing" : focus == &widget_ ? "plate" : NameOf(*focus));
         show("described", Described(QAccessible::queryAccessibleInterface(&widget_)));
         ShowControls(show);
+        for (int row = 0; row < picture_.size(); ++row)
+            show(PictureRow(row), picture_[row]);
+        picture_.clear();
         return all;
     }
 
-    // The text of the definition is a property of the widget.
+    // The text of the definition is a property of the widget. Pictures have one pixel a pixel.
     std::set<String> Unseen() const override {
         std::set<String> names = QtDriver::Unseen();
         names.insert("text");
+        for (int row = 0; row < 100 && widget_.devicePixelRatio() != 1; ++row)
+            names.insert(PictureRow(row).toStdString());
         return names;
     }
 
   private:
+    static QString PictureRow(int row) { return QString("picture %1").arg(row, 2, 10, QChar('0')); }
+
+    /// A line for each row of a picture, or every second one, and a character for each pixel.
+    /// Darker ones look darker; five shades leave room for another rounding of blended edges.
+    static QStringList AsCharacters(const QImage& picture, int step) {
+        QStringList rows;
+        for (int y = 0; y < picture.height(); y += step) {
+            rows += QString();
+            for (int x = 0; x < picture.width(); x += step)
+                rows.last() += QLatin1Char("#=+-."[qGray(picture.pixel(x, y)) * 5 / 256]);
+        }
+        return rows;
+    }
+    /// Leaves pictures without what fonts and styles draw in many ways.
+    void HideTexts() {
+        QPalette palette(QColor(0xD0, 0xD0, 0xD0));
+        palette.setColor(QPalette::ButtonText, palette.color(QPalette::Button));
+        palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Highlight));
+        widget_.setPalette(palette);
+        widget_.findChild<QPushButton*>()->hide();
+    }
+
+    static QString TextOf(const QVariant& value) {
+        if (value.canConvert<QString>()) return value.toString();
+        QString text; // "QVariant(QRect, QRect(1,2 3x4))"
+        QDebug(&text) << value;
+        return text.mid(text.indexOf(", ") + 2).chopped(2);
+    }
+    static QVariant ValueOf(const QString& text, QMetaType type) {
+        if (text.isEmpty()) return QVariant(type);
+        QVariant value = text;
+        if (type == QMetaType::fromType<QList<int>>()) {
+            QList<int> numbers;
+            for (const QString& number : text.split(','))
+                numbers += number.toInt();
+            return QVariant::fromValue(numbers);
+        }
+        if (type == QMetaType::fromType<QPointF>())
+            return QPointF(text.section(',', 0, 0).toDouble(), text.section(',', 1).toDouble());
+        EXPECT_TRUE(value.convert(type)) << qPrintable(text);
+        return value;
+    }
+
     const QMetaObject& Class() const { return *widget_.metaObject(); }
     QMetaProperty PropertyNamed(const String& name) const {
         return Class().property(Class().indexOfProperty(name.c_str()));
@@ -133,7 +193,7 @@ class WidgetDriver final : public QtDriver {
     QString ValueOf(const QMetaProperty& property) const {
         const QVariant value = property.read(&widget_);
         return property.isFlagType() ? property.enumerator().valueToKeys(value.toInt())
-                                     : value.toString();
+                                     : TextOf(value);
     }
 
     /// Whether the screen shows anything but what the widget paints by now. On screens with more
@@ -142,6 +202,41 @@ class WidgetDriver final : public QtDriver {
         const QImage shown = widget_.screen()->grabWindow(widget_.winId()).toImage();
         const QImage now = widget_.grab().toImage().copy(shown.rect());
         return shown.convertToFormat(now.format()) != now;
+    }
+
+    /// Properties that have changed since the last call without the signal that tells of it.
+    QStringList Unannounced() {
+        QStringList names;
+        for (int i = Class().propertyOffset(); i < Class().propertyCount(); ++i) {
+            const QMetaProperty property = Class().property(i);
+            if (!property.hasNotifySignal()) continue;
+            const QString value = ValueOf(property);
+            const bool changed = std::exchange(values_[i], value) != value;
+            if (changed && !signals_.Has(property.notifySignalIndex())) names += property.name();
+        }
+        return names;
+    }
+
+    /// Calls a slot or another method with arguments read from texts, and returns what it
+    /// gives.
+    String Call(const QString& name, const QStringList& texts) {
+        for (int i = Class().methodOffset(); i < Class().methodCount(); ++i) {
+            const QMetaMethod method = Class().method(i);
+            if (method.name() != name || method.parameterCount() != texts.size()) continue;
+            std::array<QVariant, 7> values;
+            std::array<QGenericArgument, 7> arguments;
+            for (int at = 0; at < texts.size(); ++at) {
+                QVariant& value = values.at(static_cast<std::size_t>(at));
+                value = ValueOf(texts[at], method.parameterMetaType(at));
+                arguments.at(static_cast<std::size_t>(at)) = {value.typeName(), value.constData()};
+            }
+            QVariant result(method.returnMetaType());
+            const QGenericReturnArgument given(method.typeName(), result.data());
+            std::apply([&](auto... all) { method.invoke(&widget_, given, all...); }, arguments);
+            return result.isValid() ? "gives: " + TextOf(result).toStdString() + "\n" : "";
+        }
+        ADD_FAILURE() << "no such method: " << qPrintable(name);
+        return {};
     }
 
     /// What assistive technology is told of the plate and of one well.
@@ -220,8 +315,10 @@ class WidgetDriver final : public QtDriver {
     }
 
     SignalLog signals_;
+    std::map<int, QString> values_; ///< of properties, by index
     String message_;
     QString tip_;
+    QStringList picture_;
     QAccessibleInterface* described_ = nullptr;
 };
 

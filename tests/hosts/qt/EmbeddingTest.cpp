@@ -1,0 +1,177 @@
+#include "Form.h"
+
+#include <QDockWidget>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsView>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QMainWindow>
+#include <QPointer>
+#include <QScrollArea>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QSplitter>
+
+namespace zorvane {
+namespace {
+
+/// A window of some kind with a widget in it.
+std::unique_ptr<QWidget> Holding(const QString& kind, PlateWidget& widget) {
+    if (kind == "layout") {
+        auto window = std::make_unique<QWidget>();
+        auto* const outer = new QVBoxLayout(window.get());
+        auto* const inner = new QHBoxLayout;
+        outer->addLayout(inner);
+        inner->addWidget(&widget);
+        return window;
+    }
+    if (kind == "splitter") {
+        auto window = std::make_unique<QSplitter>();
+        window->addWidget(&widget);
+        return window;
+    }
+    if (kind == "scene") {
+        auto window = std::make_unique<QGraphicsView>();
+        window->setScene(new QGraphicsScene(window.get()));
+        window->scene()->addWidget(&widget);
+        return window;
+    }
+    auto window = std::make_unique<QScrollArea>();
+    window->setWidgetResizable(kind == "resizing area");
+    window->setWidget(&widget);
+    return window;
+}
+
+TEST(Embedding, ThePanelOpensAndClosesWithinWhatHoldsTheWidget) {
+    for (const auto& [kind, decides] : {std::pair{"layout", true},
+                                        {"splitter", true},
+                                        {"resizing area", true},
+                                        {"area", false},
+                                        {"scene", false}}) {
+        SCOPED_TRACE(kind);
+        const TestProcess process;
+        auto& widget = *new PlateWidget;
+        widget.setPlateClassText(kPlateText);
+        const auto window = Holding(kind, widget);
+        window->resize(500, 250); // lower than the panel
+        window->show();
+        QApplication::processEvents();
+        const QSize before = widget.size();
+        widget.setDataVisible(true);
+        QApplication::processEvents();
+        EXPECT_TRUE(!decides || widget.size() == before);
+        EXPECT_GE(widget.width(), before.width()) << "nothing of the plate is cut off";
+        EXPECT_GE(widget.height(), before.height());
+        widget.setDataVisible(false);
+        QApplication::processEvents();
+        EXPECT_EQ(widget.size(), before);
+        widget.setFixedSize(false);
+        widget.setDrawingScale(50);
+        EXPECT_EQ(widget.size(), decides ? before : QSize(234, 175));
+        EXPECT_EQ(widget.sizeHint(), QSize(234, 175));
+    }
+}
+
+TEST(Embedding, ADetachedPanelLeavesThePlateAlone) {
+    const TestProcess process;
+    for (const bool dockGoesFirst : {true, false}) {
+        QMainWindow window;
+        auto* const widget = new PlateWidget;
+        widget->setPlateClassText(kPlateText);
+        window.setCentralWidget(widget);
+        widget->setDetailsDetached(true);
+        auto* const dock = new QDockWidget(&window);
+        dock->setWidget(widget->detailsPanel());
+        window.addDockWidget(Qt::RightDockWidgetArea, dock);
+        window.resize(700, 500);
+        window.show();
+        QApplication::processEvents();
+        const QSize before = widget->size();
+        const QImage picture = widget->grab().toImage();
+        widget->setDataVisible(true);
+        QApplication::processEvents();
+        EXPECT_EQ(widget->size(), before);
+        EXPECT_EQ(widget->grab().toImage(), picture);
+        const QPointer<QWidget> panel = widget->detailsPanel();
+        EXPECT_TRUE(panel->findChild<QGroupBox*>()->isVisible());
+        EXPECT_TRUE(dock->isAncestorOf(panel));
+        delete (dockGoesFirst ? static_cast<QWidget*>(dock) : widget);
+        EXPECT_EQ(panel, nullptr);
+        EXPECT_TRUE(!dockGoesFirst || !widget->detailsPanel());
+    }
+}
+
+TEST(Embedding, SettingsThatDifferAreKeptAndComeBack) {
+    const TestProcess process;
+    const TempFolder folder;
+    const TempFile library(kPlateText);
+    const QString file = QString::fromStdString(folder.File("settings.ini"));
+    PlateWidget widget;
+    widget.setFileName(QString::fromStdString(library.Path()));
+    widget.setMultipleSelect(true);
+    widget.setSelectedColor(QColor(1, 2, 3));
+    widget.setFixedSize(false);
+    widget.setDrawingScale(62.5);
+    widget.setPlateName("Demo");
+    {
+        QSettings settings(file, QSettings::IniFormat);
+        widget.saveSettings(settings);
+        EXPECT_EQ(
+            settings.allKeys().join(' '),
+            QString("DrawingScale FileName FixedSize MultipleSelect PlateName SelectedColor"));
+    }
+    QSettings settings(file, QSettings::IniFormat);
+    PlateWidget other;
+    other.restoreSettings(settings);
+    for (const char* name : {"fileName", "multipleSelect", "selectedColor", "fixedSize",
+                             "drawingScale", "plateName", "defaultRimColor"})
+        EXPECT_EQ(other.property(name), widget.property(name)) << name;
+
+    settings.setValue("FixedSize", "perhaps");
+    const QSignalSpy failures(&other, &PlateWidget::failed);
+    other.restoreSettings(settings);
+    EXPECT_EQ(failures.size(), 1);
+}
+
+TEST(Embedding, ALoadAnswersAndSaysWhyNot) {
+    TestProcess process;
+    const TempFile library(kPlateText);
+    const QString path = QString::fromStdString(library.Path());
+    PlateWidget widget;
+    struct Row {
+        const char* plate;
+        QString library;
+        bool loads;
+        const char* why;
+    };
+    for (const auto& [plate, file, loads, why] :
+         {Row{"demo", path, true, ""}, Row{"missing", path, false, "missing"},
+          Row{"Demo", "/no/such/library", false, "/no/such/library"}}) {
+        QString reason = "as it was";
+        EXPECT_EQ(widget.load(plate, file, &reason), loads) << plate;
+        EXPECT_TRUE(loads ? reason.isEmpty() : reason.contains(why)) << qPrintable(reason);
+        EXPECT_EQ(widget.plateName(), "Demo");
+    }
+    process.messages.onUnexpected = nullptr;
+    EXPECT_FALSE(widget.load("missing", path));
+    EXPECT_EQ(process.messages.shown.size(), 1U) << "in a box where nobody listens";
+    const QSignalSpy failures(&widget, &PlateWidget::failed);
+    EXPECT_FALSE(widget.load("missing", path));
+    EXPECT_EQ(failures.size(), 1);
+    EXPECT_EQ(process.messages.shown.size(), 1U);
+}
+
+TEST(Embedding, MessagesGoToTheHostThatAsksForThem) {
+    QStringList messages;
+    PlateWidget::setMessageHandler(
+        [&](const QString& title, const QString& text) { messages += title + ": " + text; });
+    PlateWidget widget;
+    widget.setFileName("/no/such/library");
+    widget.setPlateName("missing");
+    PlateWidget::setMessageHandler({});
+    EXPECT_EQ(messages,
+              QStringList("Zorvane: Error trying to read \"missing\" from </no/such/library>"));
+}
+
+} // namespace
+} // namespace zorvane
