@@ -58,7 +58,7 @@ enum class ArgumentKind : std::uint8_t {
 };
 
 /// Everything that reading, writing, checking and editing know of a keyword.
-struct KeywordTraits {
+struct KeywordTraits { // NOLINT(clang-analyzer-optin.performance.Padding): in the order of reading
     Keyword keyword;
     std::string_view name;    ///< in upper case, as cmPlate's setters record it
     std::string_view written; ///< as cmPlate::AsText writes it; empty for what that leaves out

@@ -52,9 +52,10 @@ class HeadlessDriver final : public HostDriver, private InputRouter::Host {
 
     std::map<String, String> Window() override {
         String asked;
-        for (const Question& question : site_.questions)
+        for (const Question& question : site_.questions) {
             asked += "[" + question.title + "] " + OnOneLine(question.prompt) + " (" +
                      question.preset + ")";
+        }
         return {{"outline", site_.overlay.Any() ? "shown" : ""},
                 {"tooltip", site_.toolTips.empty() ? String() : site_.toolTips.back()},
                 {"pointer", std::to_string(static_cast<int>(plate_.Elements().platePointer))},
