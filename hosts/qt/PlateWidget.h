@@ -292,6 +292,7 @@ class ZORVANE_EXPORT PlateWidget : public QWidget {
     bool fixedSize() const;
     /// Whether the drawing is fitted to the widget rather than the widget to the drawing.
     void setFixedSize(bool on);
+    using QWidget::setFixedSize; // that of the widget
     void resetFixedSize();
     /// Drawing units (1440 an inch) per millimetre.
     double drawingScale() const;

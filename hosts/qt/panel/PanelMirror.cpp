@@ -23,14 +23,13 @@ constexpr const char* kThinScrollBar =
     "}"
     "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }";
 
-constexpr int kTitleGap = 3; ///< from the title of a detached panel to its contents
-
 } // namespace
 
 PanelMirror::PanelMirror(QWidget& host, Plate& plate, StepRunner& steps)
-    : host_(host), plate_(plate), steps_(steps), frame_(&host), view_(&frame_), pages_(&contents_),
-      menu_(&contents_), comment_(&contents_), preview_(&contents_), style_(&contents_),
-      apply_(&contents_), rows_(frame_, view_, {&preview_, &style_, &apply_}) {
+    : host_(host), plate_(plate), steps_(steps), frame_(&host), place_(host, frame_),
+      view_(&frame_), pages_(&contents_), menu_(&contents_), comment_(&contents_),
+      preview_(&contents_), style_(&contents_), apply_(&contents_),
+      rows_(frame_, view_, {&preview_, &style_, &apply_}) {
     frame_.hide();
     frame_.setAutoFillBackground(true);
     frame_.setLayoutDirection(Qt::LeftToRight); // the control places what is in it
@@ -48,39 +47,6 @@ PanelMirror::PanelMirror(QWidget& host, Plate& plate, StepRunner& steps)
     Connect();
 }
 
-PanelMirror::~PanelMirror() {
-    if (!detached_) return;
-    detached_->disconnect(this);
-    frame_.setParent(&host_);
-    delete detached_;
-}
-
-void PanelMirror::Detach(bool on) {
-    if (on == (detached_ != nullptr)) return;
-    if (!on) {
-        delete detached_; // brings the panel back
-        return;
-    }
-    detached_ = new DetachedPanel(host_);
-    frame_.setParent(detached_);
-    connect(detached_, &DetachedPanel::placed, this, &PanelMirror::Moved);
-    connect(detached_, &DetachedPanel::closed, this, &PanelMirror::Close);
-    connect(detached_, &DetachedPanel::going, this, &PanelMirror::BringBack);
-    Moved();
-}
-
-void PanelMirror::BringBack() {
-    detached_.clear();
-    frame_.setParent(&host_);
-    frame_.lower(); // leaves room for the data button
-    Moved();
-}
-
-void PanelMirror::Moved() {
-    Sync();
-    emit moved();
-}
-
 void PanelMirror::NameControls() {
     pages_.setAccessibleName(tr("Page"));
     menu_.setAccessibleName(tr("Sub-well commands"));
@@ -92,6 +58,8 @@ void PanelMirror::NameControls() {
 void PanelMirror::Connect() {
     connect(&frame_, &PanelFrame::enterPressed, this, &PanelMirror::PressApply);
     connect(&frame_, &PanelFrame::escapePressed, this, &PanelMirror::Close);
+    connect(&place_, &PanelPlace::closed, this, &PanelMirror::Close);
+    connect(&place_, &PanelPlace::moved, this, &PanelMirror::Sync);
     connect(&pages_, &QComboBox::activated, this, [this](int position) {
         Run([&] { plate_.PageChosen(static_cast<Integer>(position)); });
     });
@@ -143,7 +111,7 @@ void PanelMirror::Sync() {
     if (!IsShown()) {
         if (HoldsFocus()) host_.setFocus(Qt::OtherFocusReason);
         frame_.hide();
-        if (detached_) detached_->hide();
+        place_.SetOpen(false);
         return;
     }
     const QWidget* const focus = HoldsFocus() ? QApplication::focusWidget() : nullptr;
@@ -170,16 +138,11 @@ void PanelMirror::ShowAll() {
     FitContents();
     PlaceFrame(colors);
     frame_.show();
-    if (detached_ && detached_->isWindow()) detached_->show();
-}
-
-QSize PanelMirror::DesignedSize() const {
-    const Frame& frame = plate_.Elements().fraData;
-    return ToPixels(frame.box).toRect().size();
+    place_.SetOpen(true);
 }
 
 QSize PanelMirror::Extra() const {
-    return detached_ ? (detached_->size() - DesignedSize()).expandedTo({0, 0}) : QSize(0, 0);
+    return place_.Extra(ToPixels(plate_.Elements().fraData.box).toRect().size());
 }
 
 void PanelMirror::ShowComment(const SystemPalette& colors) {
@@ -223,19 +186,12 @@ void PanelMirror::FitContents() {
     contents_.resize(used.width() + Extra().width(), used.height());
 }
 
-// Where the widget is lower than the panel, the panel ends with it and scrolls.
 void PanelMirror::PlaceFrame(const SystemPalette& colors) {
     const Frame& frame = plate_.Elements().fraData;
-    QRect place = ToPixels(frame.box).toRect();
-    place.setBottom(std::min(place.bottom(), host_.height() - 1));
-    if (detached_) {
-        detached_->Design(DesignedSize());
-        detached_->setWindowTitle(ControlText(frame.caption));
-        place = detached_->rect();
-    }
-    frame_.setGeometry(place);
+    const QString title = ControlText(frame.caption);
+    frame_.setGeometry(place_.Frame(ToPixels(frame.box).toRect(), title));
     frame_.setTitle(WithoutMnemonic(frame_.fontMetrics().elidedText(
-        ControlText(frame.caption), Qt::ElideMiddle, place.width() - 2 * PanelFrame::kTitleLeft)));
+        title, Qt::ElideMiddle, frame_.width() - 2 * PanelFrame::kTitleLeft)));
     SetColor(frame_, QPalette::Window, ToColor(Resolve(frame.back, colors)));
     SetColor(frame_, QPalette::WindowText, ToColor(Resolve(frame.text, colors)));
 
@@ -244,9 +200,7 @@ void PanelMirror::PlaceFrame(const SystemPalette& colors) {
                            container.height - kEmptyTop})
                      .toRect();
     view.setWidth(view.width() + Extra().width());
-    view.setBottom(detached_ ? place.height() - 3 : std::min(view.bottom(), place.height() - 3));
-    if (detached_) view.setTop(PanelFrame::kTitleHeight + kTitleGap); // no data button there
-    view_.setGeometry(view);
+    view_.setGeometry(place_.View(view, frame_.height()));
 }
 
 } // namespace zorvane

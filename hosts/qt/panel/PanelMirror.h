@@ -3,8 +3,8 @@
 #include "control/Plate.h"
 #include "drawing/Palette.h"
 #include "hosts/qt/panel/CompactComboBox.h"
-#include "hosts/qt/panel/DetachedPanel.h"
 #include "hosts/qt/panel/PanelFrame.h"
+#include "hosts/qt/panel/PanelPlace.h"
 #include "hosts/qt/panel/PanelRows.h"
 #include "hosts/qt/panel/StylePreview.h"
 #include "hosts/qt/widget/StepRunner.h"
@@ -27,15 +27,11 @@ class PanelMirror final : public QObject {
   public:
     /// Shows the panel inside `host`, the widget of the control.
     PanelMirror(QWidget& host, Plate& plate, StepRunner& steps);
-    ~PanelMirror() override;
 
-    /// Moves the panel into a widget of its own, or back.
-    void Detach(bool on);
-    /// That widget, or null.
-    QWidget* Detached() const { return detached_; }
-    /// Whether the host has put that widget into a place, where it is not opened and closed.
-    bool IsPlaced() const { return detached_ && !detached_->isWindow(); }
-    bool IsShown() const { return IsPlaced() || plate_.Elements().fraData.visible; }
+    PanelPlace& Place() { return place_; }
+    const PanelPlace& Place() const { return place_; }
+    /// Where the host has given it a place, the panel is shown whether open or not.
+    bool IsShown() const { return place_.IsGiven() || plate_.Elements().fraData.visible; }
 
     /// Takes over what has changed, and only that: a text box keeps its cursor, its selection and
     /// its undo history while it stays visible for the same property with the same text.
@@ -62,14 +58,10 @@ class PanelMirror final : public QObject {
   signals:
     /// The control has changed something in the panel; comes once for each step, after it.
     void changed();
-    /// The panel has another place.
-    void moved();
 
   private:
     void Settle();
     const PanelElements& Elements() const { return plate_.Elements().panel; }
-    void BringBack();
-    void Moved();
     void NameControls();
     void Connect();
     void PressApply();
@@ -77,7 +69,6 @@ class PanelMirror final : public QObject {
     bool HoldsFocus() const;
 
     void ShowAll();
-    QSize DesignedSize() const;
     /// How much larger than designed the panel is.
     QSize Extra() const;
     void ShowComment(const SystemPalette& colors);
@@ -92,8 +83,8 @@ class PanelMirror final : public QObject {
     int running_ = 0;
     bool changed_ = false;
 
-    QPointer<DetachedPanel> detached_;
     PanelFrame frame_;
+    PanelPlace place_;
     QScrollArea view_; ///< stands for ControlPic
     QWidget contents_;
     PanelComboBox pages_;

@@ -148,13 +148,13 @@ void PlateWidget::setRefitOnResize(bool on) { d_->sizing.RefitOnResize(on); }
 QColor PlateWidget::defaultRimColor() const { return ShownColor(plate().DefaultRimColor()); }
 
 void PlateWidget::setDefaultRimColor(const QColor& color) {
-    plate().DefaultRimColor(ToLong(color, kDefaultWellColor));
+    d_->Set(&Plate::DefaultRimColor, ToLong(color, kDefaultWellColor));
 }
 
 QColor PlateWidget::defaultWellColor() const { return ShownColor(plate().DefaultWellColor()); }
 
 void PlateWidget::setDefaultWellColor(const QColor& color) {
-    plate().DefaultWellColor(ToLong(color, kDefaultWellColor));
+    d_->Set(&Plate::DefaultWellColor, ToLong(color, kDefaultWellColor));
 }
 
 QColor PlateWidget::defaultSelectColor() const { return ShownColor(plate().DefaultSelectColor); }
@@ -201,11 +201,11 @@ void PlateWidget::setDragDrop(bool on) { plate().DragDrop = on; }
 
 bool PlateWidget::mouseEnabled() const { return plate().MouseEnabled(); }
 
-void PlateWidget::setMouseEnabled(bool on) { plate().MouseEnabled(on); }
+void PlateWidget::setMouseEnabled(bool on) { d_->Set(&Plate::MouseEnabled, on); }
 
 bool PlateWidget::selected() const { return plate().Selected(); }
 
-void PlateWidget::setSelected(bool on) { plate().Selected(on); }
+void PlateWidget::setSelected(bool on) { d_->Set(&Plate::Selected, on); }
 
 PlateWidget::Aids PlateWidget::aids() const { return d_->aids; }
 
@@ -218,7 +218,7 @@ void PlateWidget::setAids(Aids aids) {
 
 bool PlateWidget::editEnable() const { return plate().EditEnable(); }
 
-void PlateWidget::setEditEnable(bool on) { plate().EditEnable(on); }
+void PlateWidget::setEditEnable(bool on) { d_->Set(&Plate::EditEnable, on); }
 
 bool PlateWidget::dataVisible() const { return plate().DataVisible(); }
 
@@ -230,10 +230,10 @@ void PlateWidget::setDataDisplay(int page) { d_->Set(&Plate::SetDataDisplay, pag
 
 void PlateWidget::getDataDisplay(int page) { d_->Set(&Plate::GetDataDisplay, page); }
 
-bool PlateWidget::detailsDetached() const { return d_->panel.Detached() != nullptr; }
+bool PlateWidget::detailsDetached() const { return d_->panel.Place().Detached() != nullptr; }
 
-void PlateWidget::setDetailsDetached(bool on) { d_->panel.Detach(on); }
+void PlateWidget::setDetailsDetached(bool on) { d_->panel.Place().Detach(on); }
 
-QWidget* PlateWidget::detailsPanel() const { return d_->panel.Detached(); }
+QWidget* PlateWidget::detailsPanel() const { return d_->panel.Place().Detached(); }
 
 } // namespace zorvane

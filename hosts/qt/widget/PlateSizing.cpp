@@ -49,7 +49,7 @@ PlateSizing::PlateSizing(PlateWidget& widget, Plate& plate, PanelMirror& panel, 
 void PlateSizing::Take(QSize size) {
     const bool open = plate_.DataVisible();
     // Apart, the panel takes no room here; each layout asks for the plate's size once it is closed.
-    if (panel_.Detached() && (open || plate_.FixedSize)) return;
+    if (panel_.Place().Detached() && (open || plate_.FixedSize)) return;
     const Place place = PlaceOf(widget_);
     if (open && place == Place::InView) size = size.expandedTo(widget_.size());
     if (place == Place::Managed && plate_.FixedSize) {

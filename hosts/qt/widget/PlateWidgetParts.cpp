@@ -20,7 +20,7 @@ PlateWidget::Parts::Parts(PlateWidget& owner)
     connect(&panel, &PanelMirror::changed, &widget, &PlateWidget::panelChanged);
     connect(&dataButton, &QPushButton::clicked, &dataButton,
             [this] { steps.Run([this] { plate.DataButtonPressed(); }); });
-    connect(&panel, &PanelMirror::moved, &dataButton, [this] { ShowDataButton(); });
+    connect(&panel.Place(), &PanelPlace::moved, &dataButton, [this] { ShowDataButton(); });
     ShowDataButton();
     dataButton.raise(); // the panel leaves room for it
 }
@@ -56,7 +56,7 @@ bool PlateWidget::Parts::Load(const std::function<bool()>& step, QString* why) {
 // Where the host has given the panel a place, there is nothing to open.
 void PlateWidget::Parts::ShowDataButton() {
     dataButton.Show(plate.Elements().cmdData);
-    if (panel.IsPlaced()) dataButton.hide();
+    if (panel.Place().IsGiven()) dataButton.hide();
 }
 
 } // namespace zorvane

@@ -188,9 +188,11 @@ void PlateWidget::selectWell(int wellNo, bool on) { d_->Set(&Plate::SelectWell, 
 
 void PlateWidget::selectAll(bool on) { d_->Set(&Plate::SelectAll, on); }
 
-void PlateWidget::clearSelection() { plate().ClearSelection(); }
+void PlateWidget::clearSelection() {
+    d_->steps.Run([this] { plate().ClearSelection(); });
+}
 
-void PlateWidget::setSelectBoxEnabled(bool on) { plate().SelectBoxEnabled(on); }
+void PlateWidget::setSelectBoxEnabled(bool on) { d_->Set(&Plate::SelectBoxEnabled, on); }
 
 QRect PlateWidget::array() const {
     return {plate().ArrayX(), plate().ArrayY(), plate().ArrayWidth(), plate().ArrayHeight()};
