@@ -72,7 +72,8 @@ TEST(cmFocusOnAnOverlay, DrawingTwiceLeavesNoTrace) {
     focus.DragStart(300, 300);
     focus.RectangleVisible(true);
     // Places between pixels, where a centred plate area puts the pointer.
-    for (Single at = 7.5F; at < 4000; at += 315) {
+    for (int step = 0; step < 13; ++step) {
+        const Single at = 7.5F + 315 * static_cast<Single>(step);
         focus.DragPosition(at, 3000 - at);
         EXPECT_TRUE(site.overlay.Any());
         focus.DragStart(at / 2, at);
