@@ -4,8 +4,6 @@
 namespace zorvane {
 namespace {
 
-using testing::ValuesIn;
-
 class QtBehaviour : public testing::TestWithParam<std::filesystem::path> {};
 class WidgetBehaviour : public testing::TestWithParam<std::filesystem::path> {};
 
@@ -21,9 +19,9 @@ TEST_P(WidgetBehaviour, IsAsRecorded) {
 
 const auto kNameOf = [](const auto& transcript) { return transcript.param.stem().string(); };
 
-INSTANTIATE_TEST_SUITE_P(Transcripts, QtBehaviour, ValuesIn(Transcripts()), kNameOf);
+INSTANTIATE_TEST_SUITE_P(Transcripts, QtBehaviour, testing::ValuesIn(Transcripts()), kNameOf);
 INSTANTIATE_TEST_SUITE_P(Transcripts, WidgetBehaviour,
-                         ValuesIn(Transcripts(ZORVANE_QT_TRANSCRIPTS)), kNameOf);
+                         testing::ValuesIn(Transcripts(ZORVANE_QT_TRANSCRIPTS)), kNameOf);
 
 } // namespace
 } // namespace zorvane

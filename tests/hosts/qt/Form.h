@@ -34,12 +34,9 @@ struct Form {
     /// Where the middle of a well's rim is, in the widget.
     QPoint At(int well) const { return widget.wellRect(well).center().toPoint(); }
 
-    void Press(int well, Qt::KeyboardModifiers keys = {}) {
-        QTest::mousePress(&widget, Qt::LeftButton, keys, At(well));
-    }
-    void MoveTo(int well) { MoveTo(At(well)); }
-    void MoveTo(QPoint place) {
-        QMouseEvent event(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton,
+    void Press(int well) { QTest::mousePress(&widget, Qt::LeftButton, {}, At(well)); }
+    void MoveTo(int well) {
+        QMouseEvent event(QEvent::MouseMove, At(well), widget.mapToGlobal(At(well)), Qt::NoButton,
                           Qt::LeftButton, {});
         QApplication::sendEvent(&widget, &event);
     }

@@ -32,14 +32,6 @@ TEST(PlateWidget, FailuresReachTheHostOrTheOperatorButNotTheEventLoop) {
     ASSERT_EQ(failures.size(), 2);
     EXPECT_EQ(failures[0], (QList<QVariant>{0, "", "not mine"}));
     EXPECT_EQ(failures[1], (QList<QVariant>{7, "Host", "No room"}));
-
-    // A plate without a pitch cannot tell how far a drag went.
-    form.widget.plate().PlateClassText("PLATE Flat\r\nROWS 1\r\nCOLS 1\r\nXPITCH 0\r\nYPITCH 0\r\n"
-                                       "XOVERALL 70\r\nYOVERALL 50\r\nWELL A\r\n");
-    QTest::mousePress(&form.widget, Qt::LeftButton, {}, {100, 100});
-    QTest::mouseRelease(&form.widget, Qt::LeftButton, {}, {100, 100});
-    ASSERT_EQ(failures.size(), 4);
-    EXPECT_EQ(failures[2], (QList<QVariant>{11, "Zorvane", "Division by zero"}));
 }
 
 } // namespace zorvane

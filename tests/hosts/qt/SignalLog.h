@@ -14,7 +14,7 @@ class SignalLog : public QObject {
 
   public:
     explicit SignalLog(const QObject& object) : class_(*object.metaObject()) {
-        const QMetaMethod note = metaObject()->method(metaObject()->indexOfSlot("Note()"));
+        const QMetaMethod note = staticMetaObject.method(staticMetaObject.indexOfSlot("Note()"));
         for (int i = class_.methodOffset(); i < class_.methodCount(); ++i) {
             if (class_.method(i).methodType() != QMetaMethod::Signal) continue;
             spies_[i] = std::make_unique<QSignalSpy>(&object, class_.method(i));
@@ -31,8 +31,8 @@ class SignalLog : public QObject {
     /// Whether a signal has come since then.
     bool Has(int signal) const { return !spies_.at(signal)->isEmpty(); }
 
-  private slots:
-    void Note() {
+  private:
+    Q_SLOT void Note() {
         const int signal = senderSignalIndex();
         QString text = class_.method(signal).name();
         for (const QVariant& argument : spies_[signal]->last())
@@ -40,7 +40,6 @@ class SignalLog : public QObject {
         names_ += text;
     }
 
-  private:
     const QMetaObject& class_;
     std::map<int, std::unique_ptr<QSignalSpy>> spies_; // by index of the signal
     QStringList names_;

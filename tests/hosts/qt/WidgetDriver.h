@@ -1,17 +1,14 @@
 #pragma once
 
+#include "Controls.h"
+#include "MetaTexts.h"
 #include "QtDriver.h"
 #include "SignalLog.h"
 
 #include <QAccessible>
-#include <QGroupBox>
-#include <QLabel>
-#include <QMetaProperty>
 #include <QScreen>
-#include <QSignalSpy>
 #include <QToolTip>
 
-#include <array>
 #include <iomanip>
 #include <optional>
 
@@ -29,74 +26,31 @@ class WidgetDriver final : public QtDriver {
     }
 
     std::optional<String> RunOwn(const String& name, const String& words) override {
-        std::istringstream stream(words);
-        String first;
-        stream >> first;
-        const auto text = QString::fromStdString(first);
-        const auto number = [&] { return text.toInt(); };
-        const auto rest = [&] {
-            String line;
-            std::getline(stream >> std::ws, line);
-            return QString::fromStdString(line);
+        static const std::map<String, void (WidgetDriver::*)(const QStringList&)> commands = {
+            {"set", &WidgetDriver::Set},
+            {"reset", &WidgetDriver::Reset},
+            {"call", &WidgetDriver::CallMethod},
+            {"keys", &WidgetDriver::PressKeys},
+            {"write", &WidgetDriver::Type},
+            {"focus", &WidgetDriver::SetFocus},
+            {"wheel", &WidgetDriver::TurnWheel},
+            {"click", &WidgetDriver::Click},
+            {"tip", &WidgetDriver::AskForToolTip},
+            {"leave", &WidgetDriver::Leave},
+            {"resize", &WidgetDriver::Resize},
+            {"hide-texts", &WidgetDriver::HideTexts},
+            {"picture", &WidgetDriver::TakePicture},
+            {"describe", &WidgetDriver::Describe},
         };
-        const QString all = QString::fromStdString(words);
-        if (name == "set") {
-            const QMetaProperty property = PropertyNamed(first);
-            const QString value = rest();
-            EXPECT_TRUE(property.write(&widget_, property.isFlagType() && !value.isEmpty()
-                                                     ? value
-                                                     : ValueOf(value, property.metaType())))
-                << words;
-        } else if (name == "reset") {
-            EXPECT_TRUE(PropertyNamed(first).reset(&widget_)) << words;
-        } else if (name == "call") {
-            QStringList texts;
-            for (String word; stream >> std::quoted(word);)
-                texts += QString::fromStdString(word);
-            return Call(text, texts);
-        } else if (name == "keys") {
-            const QKeyCombination keys = QKeySequence(all)[0];
-            QTest::keyClick(&Focus(), keys.key(), keys.keyboardModifiers());
-        } else if (name == "write") {
-            QTest::keyClicks(&Focus(), all);
-        } else if (name == "focus") {
-            if (words == "nothing") return widget_.clearFocus(), "";
-            (words.empty() ? &widget_ : Named<QWidget>(all))->setFocus();
-        } else if (name == "wheel") {
-            auto* const list = Named<QWidget>(all);
-            QWheelEvent turn({5, 5}, list->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
-                             Qt::NoScrollPhase, false);
-            QApplication::sendEvent(list, &turn);
-        } else if (name == "click") {
-            const QPoint place(number(), rest().toInt());
-            auto* const hit = widget_.childAt(place) ? widget_.childAt(place) : &widget_;
-            QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(&widget_, place));
-        } else if (name == "tip") {
-            const QPoint place(number(), rest().toInt());
-            QHelpEvent help(QEvent::ToolTip, place, widget_.mapToGlobal(place));
-            for (auto* const window : QApplication::topLevelWidgets())
-                if (window->inherits("QTipLabel")) delete window; // it would fade by and by
-            QApplication::sendEvent(&widget_, &help);
-            tip_ = QToolTip::text();
-        } else if (name == "leave") {
-            widget_.setAttribute(Qt::WA_UnderMouse, false);
-            QEvent leave(QEvent::Leave);
-            QApplication::sendEvent(&widget_, &leave);
-        } else if (name == "resize") {
-            widget_.resize(number(), rest().toInt());
-        } else if (name == "hide-texts") {
-            HideTexts();
-        } else if (name == "picture") {
-            int x = number(), y = 0, width = 0, height = 0, step = 1;
-            stream >> y >> width >> height >> step;
-            const QImage picture = widget_.grab({x, y, width, height}).toImage();
-            if (picture.devicePixelRatio() == 1) picture_ = AsCharacters(picture, step);
-        } else if (name == "describe") {
-            described_ = QAccessible::queryAccessibleInterface(&widget_)->child(number());
-        } else {
-            return std::nullopt;
-        }
-        return "";
+        const auto command = commands.find(name);
+        if (command == commands.end()) return std::nullopt;
+        QStringList texts;
+        std::istringstream stream(words);
+        for (String word; stream >> std::quoted(word);)
+            texts += QString::fromStdString(word);
+        (this->*command->second)(texts);
+        const QString given = std::exchange(given_, {});
+        return given.isNull() ? "" : "gives: " + given.toStdString() + "\n";
     }
 
     std::map<String, String> Window() override {
@@ -111,17 +65,16 @@ class WidgetDriver final : public QtDriver {
         show("signals", signals_.Take());
         show("message", QString::fromStdString(std::exchange(message_, {})));
         for (int i = Class().propertyOffset(); i < Class().propertyCount(); ++i)
-            show(Class().property(i).name(), ValueOf(Class().property(i)));
-        show("widget size", QString("%1x%2").arg(widget_.width()).arg(widget_.height()));
-        show("hint",
-             QString("%1x%2").arg(widget_.sizeHint().width()).arg(widget_.sizeHint().height()));
-        show("menu at", QString("%1,%2").arg(menuAt_.x()).arg(menuAt_.y()));
+            show(Class().property(i).name(), TextOf(Class().property(i), widget_));
+        show("widget size", TextOf(widget_.size()));
+        show("hint", TextOf(widget_.sizeHint()));
+        show("menu at", TextOf(menuAt_));
         show("cursor", QVariant::fromValue(widget_.cursor().shape()).toString());
         show("tip", tip_);
         const QWidget* const focus = QApplication::focusWidget();
         show("focus on", !focus ? "nothing" : focus == &widget_ ? "plate" : NameOf(*focus));
         show("described", Described(QAccessible::queryAccessibleInterface(&widget_)));
-        ShowControls(show);
+        ShowControls(widget_, show);
         for (int row = 0; row < picture_.size(); ++row)
             show(PictureRow(row), picture_[row]);
         picture_.clear();
@@ -151,51 +104,76 @@ class WidgetDriver final : public QtDriver {
         }
         return rows;
     }
+    const QMetaObject& Class() const { return *widget_.metaObject(); }
+    QMetaProperty PropertyNamed(const QString& name) const {
+        return Class().property(Class().indexOfProperty(name.toLatin1()));
+    }
+
+    void Set(const QStringList& words) {
+        EXPECT_TRUE(Write(PropertyNamed(words[0]), widget_, words.mid(1).join(' ')))
+            << qPrintable(words.join(' '));
+    }
+    void Reset(const QStringList& words) { EXPECT_TRUE(PropertyNamed(words[0]).reset(&widget_)); }
+    void CallMethod(const QStringList& words) { given_ = Call(widget_, words[0], words.mid(1)); }
+
+    void PressKeys(const QStringList& words) {
+        const QKeyCombination keys = QKeySequence(words[0])[0];
+        QTest::keyClick(&Focus(), keys.key(), keys.keyboardModifiers());
+    }
+    void Type(const QStringList& words) { QTest::keyClicks(&Focus(), words.join(' ')); }
+    /// The widget's own without a name.
+    void SetFocus(const QStringList& words) {
+        if (words == QStringList("nothing")) return widget_.clearFocus();
+        (words.isEmpty() ? &widget_ : Named<QWidget>(words.join(' ')))->setFocus();
+    }
+    void TurnWheel(const QStringList& words) {
+        auto* const list = Named<QWidget>(words[0]);
+        QWheelEvent turn({5, 5}, list->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(list, &turn);
+    }
+    void Click(const QStringList& words) {
+        const QPoint place(words[0].toInt(), words[1].toInt());
+        auto* const hit = widget_.childAt(place) ? widget_.childAt(place) : &widget_;
+        QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(&widget_, place));
+    }
+    void AskForToolTip(const QStringList& words) {
+        const QPoint place(words[0].toInt(), words[1].toInt());
+        QHelpEvent help(QEvent::ToolTip, place, widget_.mapToGlobal(place));
+        for (auto* const window : QApplication::topLevelWidgets())
+            if (window->inherits("QTipLabel")) delete window; // it would fade by and by
+        QApplication::sendEvent(&widget_, &help);
+        tip_ = QToolTip::text();
+    }
+    void Leave(const QStringList& /*words*/) {
+        widget_.setAttribute(Qt::WA_UnderMouse, false);
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(&widget_, &leave);
+    }
+    void Resize(const QStringList& words) { widget_.resize(words[0].toInt(), words[1].toInt()); }
     /// Leaves pictures without what fonts and styles draw in many ways.
-    void HideTexts() {
+    void HideTexts(const QStringList& /*words*/) {
         QPalette palette(QColor(0xD0, 0xD0, 0xD0));
         palette.setColor(QPalette::ButtonText, palette.color(QPalette::Button));
         palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Highlight));
         widget_.setPalette(palette);
         widget_.findChild<QPushButton*>()->hide();
     }
-
-    static QString TextOf(const QVariant& value) {
-        if (value.canConvert<QString>()) return value.toString();
-        QString text; // "QVariant(QRect, QRect(1,2 3x4))"
-        QDebug(&text) << value;
-        return text.mid(text.indexOf(", ") + 2).chopped(2);
+    /// A box of the widget and, for every second or third pixel, the step.
+    void TakePicture(const QStringList& words) {
+        const QRect box(words[0].toInt(), words[1].toInt(), words[2].toInt(), words[3].toInt());
+        const QImage picture = widget_.grab(box).toImage();
+        if (picture.devicePixelRatio() == 1)
+            picture_ = AsCharacters(picture, std::max(1, words.value(4).toInt()));
     }
-    static QVariant ValueOf(const QString& text, QMetaType type) {
-        if (text.isEmpty()) return QVariant(type);
-        QVariant value = text;
-        if (type == QMetaType::fromType<QList<int>>()) {
-            QList<int> numbers;
-            for (const QString& number : text.split(','))
-                numbers += number.toInt();
-            return QVariant::fromValue(numbers);
-        }
-        if (type == QMetaType::fromType<QPointF>())
-            return QPointF(text.section(',', 0, 0).toDouble(), text.section(',', 1).toDouble());
-        EXPECT_TRUE(value.convert(type)) << qPrintable(text);
-        return value;
-    }
-
-    const QMetaObject& Class() const { return *widget_.metaObject(); }
-    QMetaProperty PropertyNamed(const String& name) const {
-        return Class().property(Class().indexOfProperty(name.c_str()));
+    void Describe(const QStringList& words) {
+        described_ = QAccessible::queryAccessibleInterface(&widget_)->child(words[0].toInt());
     }
 
     QWidget& Focus() {
         QWidget* const focus = QApplication::focusWidget();
         return focus ? *focus : widget_;
     }
-    QString ValueOf(const QMetaProperty& property) const {
-        const QVariant value = property.read(&widget_);
-        return property.isFlagType() ? property.enumerator().valueToKeys(value.toInt())
-                                     : TextOf(value);
-    }
-
     /// Whether the screen shows anything but what the widget paints by now. On screens with more
     /// pixels only a part of the window can be taken from the screen.
     bool IsStale() {
@@ -210,113 +188,33 @@ class WidgetDriver final : public QtDriver {
         for (int i = Class().propertyOffset(); i < Class().propertyCount(); ++i) {
             const QMetaProperty property = Class().property(i);
             if (!property.hasNotifySignal()) continue;
-            const QString value = ValueOf(property);
+            const QString value = TextOf(property, widget_);
             const bool changed = std::exchange(values_[i], value) != value;
             if (changed && !signals_.Has(property.notifySignalIndex())) names += property.name();
         }
         return names;
     }
 
-    /// Calls a slot or another method with arguments read from texts, and returns what it
-    /// gives.
-    String Call(const QString& name, const QStringList& texts) {
-        for (int i = Class().methodOffset(); i < Class().methodCount(); ++i) {
-            const QMetaMethod method = Class().method(i);
-            if (method.name() != name || method.parameterCount() != texts.size()) continue;
-            std::array<QVariant, 7> values;
-            std::array<QGenericArgument, 7> arguments;
-            for (int at = 0; at < texts.size(); ++at) {
-                QVariant& value = values.at(static_cast<std::size_t>(at));
-                value = ValueOf(texts[at], method.parameterMetaType(at));
-                arguments.at(static_cast<std::size_t>(at)) = {value.typeName(), value.constData()};
-            }
-            QVariant result(method.returnMetaType());
-            const QGenericReturnArgument given(method.typeName(), result.data());
-            std::apply([&](auto... all) { method.invoke(&widget_, given, all...); }, arguments);
-            return result.isValid() ? "gives: " + TextOf(result).toStdString() + "\n" : "";
-        }
-        ADD_FAILURE() << "no such method: " << qPrintable(name);
-        return {};
-    }
-
     /// What assistive technology is told of the plate and of one well.
     QString Described(QAccessibleInterface* plate) const {
         QString text =
             QString("%1 of %2").arg(plate->text(QAccessible::Name)).arg(plate->childCount());
-        QAccessibleInterface* const well = described_;
-        if (!well) return text;
-        if (!well->isValid()) return text + "; gone";
+        if (!described_) return text;
+        if (!described_->isValid()) return text + "; gone";
         for (const auto kind : {QAccessible::Name, QAccessible::Value, QAccessible::Description})
-            text += "; " + well->text(kind);
-        const QPoint middle = well->rect().center();
-        if (plate->childAt(middle.x(), middle.y()) == well) text += " (in sight)";
-        if (plate->indexOfChild(well) >= 0)
-            text += QString(" (child %1)").arg(plate->indexOfChild(well));
-        if (plate->focusChild() == well && well->state().focused) text += " (focused)";
-        if (well->state().selected) text += " (selected)";
+            text += "; " + described_->text(kind);
+        const QPoint middle = described_->rect().center();
+        if (plate->childAt(middle.x(), middle.y()) == described_) text += " (in sight)";
+        text += QString(" (child %1)").arg(plate->indexOfChild(described_));
+        if (plate->focusChild() == described_ && described_->state().focused) text += " (focused)";
+        if (described_->state().selected) text += " (selected)";
         return text;
-    }
-
-    static QString NameOf(const QWidget& shown) {
-        const QString name = shown.accessibleName();
-        return name.isEmpty() ? TextIn(shown) : name;
-    }
-    template <class Show>
-    void ShowControls(Show show) const {
-        QStringList stack;
-        for (auto* const child : widget_.findChildren<QWidget*>()) {
-            const QString text = TextIn(*child);
-            if (!child->isVisible() || child->isWindow() || text.isNull()) continue;
-            const bool isCaption = qobject_cast<QLabel*>(child);
-            const QString name = (isCaption ? "caption " : "control ") + NameOf(*child);
-            if (!isCaption) stack += NameOf(*child);
-            const QRect box(child->mapTo(&widget_, QPoint()), child->size());
-            show(name, QString("%1,%2 %3x%4 %5px \"%6\"%7")
-                           .arg(box.x())
-                           .arg(box.y())
-                           .arg(box.width())
-                           .arg(box.height())
-                           .arg(child->font().pixelSize())
-                           .arg(text, States(*child)));
-        }
-        show("stack", stack.join(", "));
-    }
-    QString States(const QWidget& shown) const {
-        QString states;
-        const auto* const edit = qobject_cast<const QLineEdit*>(&shown);
-        const auto* const comment = qobject_cast<const QPlainTextEdit*>(&shown);
-        const auto* const label = qobject_cast<const QLabel*>(&shown);
-        if (!shown.isEnabled()) states += " disabled";
-        if (shown.font().bold()) states += " bold";
-        if (shown.font().italic()) states += " italic";
-        if (edit && edit->alignment().testFlag(Qt::AlignRight)) states += " right";
-        if (edit && edit->hasFocus()) states += QString(" at %1").arg(edit->cursorPosition());
-        if (comment && comment->isReadOnly()) states += " read-only";
-        if (comment && comment->document()->isUndoAvailable()) states += " undoable";
-        if (label && label->buddy()) states += " for " + label->buddy()->accessibleName();
-        if (label && shown.autoFillBackground()) states += " opaque";
-        const QColor base = widget_.palette().color(QPalette::Base);
-        if (shown.palette().color(QPalette::Base) != base) states += " grey";
-        return states;
-    }
-    static QString TextIn(const QWidget& shown) {
-        if (const auto* label = qobject_cast<const QLabel*>(&shown)) return label->text();
-        if (const auto* edit = qobject_cast<const QLineEdit*>(&shown)) return edit->text();
-        if (const auto* box = qobject_cast<const QPlainTextEdit*>(&shown))
-            return box->toPlainText();
-        if (const auto* button = qobject_cast<const QPushButton*>(&shown)) return button->text();
-        if (const auto* frame = qobject_cast<const QGroupBox*>(&shown)) return frame->title();
-        if (shown.inherits("zorvane::StylePreview")) return "Preview";
-        const auto* list = qobject_cast<const QComboBox*>(&shown);
-        QStringList entries;
-        for (int i = 0; list && i < list->count(); ++i)
-            entries += (i == list->currentIndex() ? "*" : "") + list->itemText(i);
-        return entries.join('|');
     }
 
     SignalLog signals_;
     std::map<int, QString> values_; ///< of properties, by index
     String message_;
+    QString given_; ///< by the method that was called last
     QString tip_;
     QStringList picture_;
     QAccessibleInterface* described_ = nullptr;

@@ -17,13 +17,6 @@ namespace {
 
 const QMetaObject& Class() { return PlateWidget::staticMetaObject; }
 
-std::vector<QMetaProperty> OwnProperties() {
-    std::vector<QMetaProperty> properties;
-    for (int i = Class().propertyOffset(); i < Class().propertyCount(); ++i)
-        properties.push_back(Class().property(i));
-    return properties;
-}
-
 bool HasMethod(const String& name, bool isSignal) {
     for (int i = Class().methodOffset(); i < Class().methodCount(); ++i) {
         const QMetaMethod method = Class().method(i);
@@ -71,7 +64,8 @@ TEST(WidgetInterface, FormsKeepTheSavedSettingsAndTheWidgetsOwn) {
         for (const MemberDescription& member : group.members)
             if (member.saved) kept.insert(NameOf(member));
     }
-    for (const QMetaProperty& property : OwnProperties()) {
+    for (int i = Class().propertyOffset(); i < Class().propertyCount(); ++i) {
+        const QMetaProperty property = Class().property(i);
         const bool isKept = kept.erase(property.name()) > 0;
         EXPECT_EQ(property.isStored(), isKept) << property.name();
         EXPECT_EQ(property.isDesignable(), isKept) << property.name();
