@@ -12,7 +12,7 @@ packages=(
 )
 if [ "${1:-}" = --check ]; then
     packages+=(clang clang-format clang-tidy git libbenchmark-dev libpugixml-dev
-              qt6-tools-dev libqt6opengl6-dev debhelper pkg-config doxygen)
+              qt6-tools-dev qt6-l10n-tools libqt6opengl6-dev debhelper pkg-config doxygen)
 fi
 
 if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then

@@ -71,6 +71,7 @@ void PlateWidget::showEvent(QShowEvent* event) {
 void PlateWidget::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange) d_->ShowDataButton();
+    if (event->type() == QEvent::LanguageChange) d_->NameControls();
     d_->panel.Sync();
     update(); // colours, font and style all show
 }

@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QList>
+#include <QLocale>
 #include <QRectF>
 #include <QString>
 #include <QVector3D>
@@ -226,6 +227,12 @@ class ZORVANE_EXPORT PlateWidget : public QWidget {
     /// called in the thread that fails; an empty one brings the boxes back. Programs that install a
     /// Process of their own get their messages there instead.
     static void setMessageHandler(MessageHandler handler);
+
+    /// Shows the texts of all widgets, and what controls report, in the language of a locale from
+    /// now on: German, where this library was built with it. Names and values stay as they are, and
+    /// so does the control. Returns whether the language is there; without it, or before this is
+    /// called, texts are English. Needs the program's QCoreApplication.
+    static bool installTranslation(const QLocale& locale = QLocale());
 
     // The plate, and the library from which it is loaded.
 

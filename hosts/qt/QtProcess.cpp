@@ -1,7 +1,7 @@
 #include "hosts/qt/QtProcess.h"
 
-#include "hosts/qt/ControlText.h"
 #include "hosts/qt/Units.h"
+#include "hosts/qt/texts/ControlText.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -12,8 +12,8 @@ namespace zorvane {
 PlateWidget::MessageHandler QtMessages::handler;
 
 void QtMessages::Show(const Message& message) {
-    const QString title = QString::fromStdString(message.title);
-    const QString text = ControlText(message.prompt).remove(QLatin1Char('\r'));
+    const QString title = ControlText(message.title);
+    const QString text = ControlText(message.prompt);
     if (const auto takes = handler) return takes(title, text);
     QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok,
                     QApplication::activeWindow());

@@ -1,8 +1,8 @@
 #include "hosts/qt/QtSite.h"
 
-#include "hosts/qt/ControlText.h"
 #include "hosts/qt/Units.h"
 #include "hosts/qt/panel/PanelText.h"
+#include "hosts/qt/texts/ControlText.h"
 
 #include <QCursor>
 #include <QInputDialog>
@@ -29,10 +29,9 @@ void QtSite::TakeFocus() {
 }
 
 String QtSite::Ask(const Question& question) {
-    QString prompt = ControlText(question.prompt);
-    prompt.remove(QLatin1Char('\r'));
-    const QString answer = QInputDialog::getText(widget_, ControlText(question.title), prompt,
-                                                 QLineEdit::Normal, ShownText(question.preset));
+    const QString answer =
+        QInputDialog::getText(widget_, ControlText(question.title), ControlText(question.prompt),
+                              QLineEdit::Normal, ShownText(question.preset));
     return TakenText(answer, question.preset);
 }
 

@@ -5,9 +5,7 @@
 
 namespace zorvane {
 
-DetailsButton::DetailsButton(QWidget& host) : QPushButton(&host) {
-    setAccessibleName(tr("Details"));
-}
+DetailsButton::DetailsButton(QWidget& host) : QPushButton(&host) {}
 
 void DetailsButton::Show(const Button& button) {
     QFont font = parentWidget()->font();

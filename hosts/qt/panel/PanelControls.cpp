@@ -1,7 +1,7 @@
 #include "hosts/qt/panel/PanelControls.h"
 
-#include "hosts/qt/ControlText.h"
 #include "hosts/qt/Units.h"
+#include "hosts/qt/texts/ControlText.h"
 
 #include <QComboBox>
 #include <QPushButton>

@@ -1,11 +1,11 @@
 #include "hosts/qt/panel/PanelMirror.h"
 
 #include "drawing/Canvas.h"
-#include "hosts/qt/ControlText.h"
 #include "hosts/qt/QtPalette.h"
 #include "hosts/qt/Units.h"
 #include "hosts/qt/panel/PanelControls.h"
 #include "hosts/qt/panel/PanelText.h"
+#include "hosts/qt/texts/ControlText.h"
 
 #include <QApplication>
 #include <QScrollBar>
@@ -43,7 +43,6 @@ PanelMirror::PanelMirror(QWidget& host, Plate& plate, StepRunner& steps)
     contents_.setAutoFillBackground(false);
     comment_.setTabChangesFocus(true);
     comment_.setUndoRedoEnabled(true);
-    NameControls();
     Connect();
 }
 

@@ -33,6 +33,8 @@ class PanelMirror final : public QObject {
     /// Where the host has given it a place, the panel is shown whether open or not.
     bool IsShown() const { return place_.IsGiven() || plate_.Elements().fraData.visible; }
 
+    /// Gives the controls their names, in the language of the program.
+    void NameControls();
     /// Takes over what has changed, and only that: a text box keeps its cursor, its selection and
     /// its undo history while it stays visible for the same property with the same text.
     void Sync();
@@ -62,7 +64,6 @@ class PanelMirror final : public QObject {
   private:
     void Settle();
     const PanelElements& Elements() const { return plate_.Elements().panel; }
-    void NameControls();
     void Connect();
     void PressApply();
     void Close();

@@ -1,9 +1,9 @@
 #include "hosts/qt/panel/PanelRows.h"
 
-#include "hosts/qt/ControlText.h"
 #include "hosts/qt/QtPalette.h"
 #include "hosts/qt/panel/PanelControls.h"
 #include "hosts/qt/panel/PanelText.h"
+#include "hosts/qt/texts/ControlText.h"
 
 #include <QScrollArea>
 

@@ -21,8 +21,14 @@ PlateWidget::Parts::Parts(PlateWidget& owner)
     connect(&dataButton, &QPushButton::clicked, &dataButton,
             [this] { steps.Run([this] { plate.DataButtonPressed(); }); });
     connect(&panel.Place(), &PanelPlace::moved, &dataButton, [this] { ShowDataButton(); });
+    NameControls();
     ShowDataButton();
     dataButton.raise(); // the panel leaves room for it
+}
+
+void PlateWidget::Parts::NameControls() {
+    dataButton.setAccessibleName(tr("Details"));
+    panel.NameControls();
 }
 
 void PlateWidget::Parts::ConnectSite() {

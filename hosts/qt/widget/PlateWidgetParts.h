@@ -65,6 +65,8 @@ struct PlateWidget::Parts {
     /// goes there, else it is reported.
     bool Load(const std::function<bool()>& step, QString* why = nullptr);
 
+    /// What assistive technology calls them, in the language of the program.
+    void NameControls();
     void ShowDataButton();
 
     PlateWidget& widget;

@@ -1,6 +1,6 @@
 #include "hosts/qt/widget/QuietLoad.h"
 
-#include "hosts/qt/ControlText.h"
+#include "hosts/qt/texts/ControlText.h"
 #include "platform/Process.h"
 #include "runtime/RuntimeError.h"
 

@@ -1,7 +1,7 @@
 #include "hosts/qt/widget/StepRunner.h"
 
-#include "hosts/qt/ControlText.h"
 #include "hosts/qt/PlateWidget.h"
+#include "hosts/qt/texts/ControlText.h"
 #include "platform/Process.h"
 #include "runtime/RuntimeError.h"
 
@@ -11,14 +11,14 @@ QObject* StepRunner::AsObject() const { return &widget_; }
 
 void StepRunner::Report(const std::exception& error) {
     const auto* const ours = dynamic_cast<const RuntimeError*>(&error);
-    const QString description =
-        ours ? ControlText(ours->Description()) : QString::fromLocal8Bit(error.what());
+    const String description =
+        ours ? ours->Description() : QString::fromLocal8Bit(error.what()).toStdString();
     if (widget_.ReportsFailures()) {
         const int number = ours ? ours->Number() : 0; // 0: thrown by a slot of the host
         const QString source = ours ? QString::fromStdString(ours->Source()) : QString();
-        emit widget_.failed(number, source, description);
+        emit widget_.failed(number, source, ControlText(description));
     } else {
-        CurrentMessages().Show({description.toStdString()});
+        CurrentMessages().Show({description});
     }
 }
 
