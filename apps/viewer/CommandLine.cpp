@@ -14,15 +14,13 @@ CommandLine::CommandLine(const QCoreApplication& app) {
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOption({QStringLiteral("picture"),
-                      tr("Write the picture of a plate to a file and exit."),
-                      QStringLiteral("plate")});
+                      tr("Write the picture of a plate to a file and exit."), tr("plate")});
     parser.addOption({{QStringLiteral("o"), QStringLiteral("output")},
                       tr("The image file that --picture writes."),
-                      QStringLiteral("file")});
+                      tr("file")});
     parser.addPositionalArgument(
-        QStringLiteral("library"),
-        tr("Plate library to open; else the one that the registry leads to."),
-        QStringLiteral("[library]"));
+        tr("library"),
+        tr("Plate library to open; else the one that the registry leads to."), tr("[library]"));
     parser.process(app);
     const QStringList files = parser.positionalArguments();
     picture = parser.value(QStringLiteral("picture"));

@@ -1,5 +1,6 @@
 #include "apps/viewer/Picture.h"
 
+#include "apps/viewer/texts/ErrorText.h"
 #include "drawing/PlatePicture.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtPalette.h"
@@ -50,7 +51,7 @@ QString WritePicture(const QString& library, const QString& plateName, const QSt
         if (writer.write(ImageOf(picture))) return {};
         return file + QStringLiteral(": ") + writer.errorString();
     } catch (const RuntimeError& error) {
-        return QString::fromStdString(error.Description());
+        return ErrorText(error);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "apps/viewer/logic/VolumeColoring.h"
 #include "apps/viewer/logic/WellSnapshot.h"
+#include "apps/viewer/texts/ErrorText.h"
 #include "control/WellNames.h"
 #include "hosts/qt/PlateWidget.h"
 #include "runtime/RuntimeError.h"
@@ -52,7 +53,7 @@ class PlateSession final : public QObject {
                 coloring_.WithOwnColors(std::forward<Change>(change));
                 done = true;
             } catch (const RuntimeError& error) {
-                emit failed(QString::fromStdString(error.Description()));
+                emit failed(ErrorText(error));
             }
         }
         return done;

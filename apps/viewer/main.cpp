@@ -2,9 +2,11 @@
 #include "apps/viewer/Picture.h"
 #include "apps/viewer/PlateSession.h"
 #include "apps/viewer/window/MainWindow.h"
+#include "hosts/qt/texts/Catalogue.h"
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QLibraryInfo>
 #include <QStyle>
 #include <QTextStream>
 
@@ -27,6 +29,16 @@ void NameTheProgram() {
     QCoreApplication::setApplicationVersion(QStringLiteral(PLATE_VIEWER_VERSION));
 }
 
+/// The language that the system asks for. Qt's own catalogues are there where they are installed.
+void ChooseLanguage() {
+    const QLocale locale;
+    zorvane::InstallCatalogue(QStringLiteral("qtbase"),
+                              QLibraryInfo::path(QLibraryInfo::TranslationsPath), locale);
+    zorvane::PlateWidget::installTranslation(locale);
+    zorvane::InstallCatalogue(QStringLiteral("plate-viewer"),
+                              QStringLiteral(":/plate-viewer/translations"), locale);
+}
+
 /// Where the platform has no style of its own.
 void ChooseStyle() {
     if (QApplication::style()->name() == QLatin1String("windows")) QApplication::setStyle("fusion");
@@ -44,11 +56,13 @@ int main(int argc, char** argv) {
     NameTheProgram();
     if (AsksForTextOnly(argc, argv)) {
         const QCoreApplication app(argc, argv);
+        ChooseLanguage();
         const CommandLine answered(app);
     }
     const QApplication app(argc, argv);
     QApplication::setApplicationDisplayName(QStringLiteral("Plate Viewer"));
     ChooseStyle();
+    ChooseLanguage();
 
     const CommandLine asked(app);
     if (!asked.picture.isEmpty()) return Draw(asked);

@@ -43,7 +43,8 @@ QString SignOf(LineChange change) {
 }
 
 QString LineCount(std::ptrdiff_t count) {
-    return count == 1 ? DifferencePanel::tr("1 line") : DifferencePanel::tr("%1 lines").arg(count);
+    return count == 1 ? DifferencePanel::tr("1 line")
+                      : DifferencePanel::tr("%n lines", nullptr, static_cast<int>(count));
 }
 
 QString Summary(const std::vector<ChangedLine>& lines, bool edited) {
@@ -55,6 +56,7 @@ QString Summary(const std::vector<ChangedLine>& lines, bool edited) {
     const auto added = count(LineChange::Added);
     if (removed + added == 0) return DifferencePanel::tr("This is what the library holds.");
     if (edited) {
+        //: %1 and %2 are numbers of lines, such as "1 line" and "3 lines".
         return DifferencePanel::tr("Saving takes out %1 and puts in %2.")
             .arg(LineCount(removed), LineCount(added));
     }

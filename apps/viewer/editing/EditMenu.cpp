@@ -16,22 +16,24 @@ EditMenu::EditMenu(LibraryBrowser& library, EditMode& editing, QWidget* parent)
     toggle_ = addAction(Icon("document-edit"), tr("&Edit Plate Type"));
     toggle_->setIconText(tr("Edit"));
     toggle_->setCheckable(true);
-    toggle_->setShortcut(QKeySequence(tr("Ctrl+T")));
+    toggle_->setShortcut(QKeyCombination(Qt::CTRL, Qt::Key_T));
     // A click has switched the mark already, whether editing could begin or end or not.
     connect(toggle_, &QAction::triggered, this, [this, &library](bool on) {
         library.SwitchEditing(on);
         Refresh();
     });
     addSeparator();
-    undo_ = addAction(Icon("edit-undo"), tr("&Undo"), QKeySequence(tr("Ctrl+Z")), &editing,
-                      &EditMode::Undo);
+    undo_ =
+        addAction(Icon("edit-undo"), tr("&Undo"), QKeySequence::Undo, &editing, &EditMode::Undo);
     redo_ = addAction(Icon("edit-redo"), tr("&Redo"), &editing, &EditMode::Redo);
-    redo_->setShortcuts({QKeySequence(tr("Ctrl+Shift+Z")), QKeySequence(tr("Ctrl+Y"))});
+    redo_->setShortcuts(
+        {QKeyCombination({Qt::CTRL, Qt::SHIFT}, Qt::Key_Z), QKeyCombination(Qt::CTRL, Qt::Key_Y)});
     addSeparator();
     save_ = addAction(Icon("document-save"), tr("&Save to Library"), QKeySequence::Save, &editing,
                       &EditMode::Save);
-    saveAs_ = addAction(Icon("document-save-as"), tr("Save as &New Plate…"),
-                        QKeySequence(tr("Ctrl+Shift+S")), &editing, &EditMode::SaveAs);
+    saveAs_ =
+        addAction(Icon("document-save-as"), tr("Save as &New Plate…"),
+                  QKeyCombination({Qt::CTRL, Qt::SHIFT}, Qt::Key_S), &editing, &EditMode::SaveAs);
     connect(&editing, &EditMode::changed, this, &EditMenu::Refresh);
     Refresh();
 }

@@ -2,16 +2,45 @@
 
 #include "apps/viewer/PlateSession.h"
 #include "apps/viewer/editing/DifferencePanel.h"
+#include "apps/viewer/texts/ErrorText.h"
 #include "library/ReplaceFile.h"
 
 namespace zorvane::viewer {
+
+namespace {
+
+/// What is said of a command of the control's panel that failed.
+QString CommandFailure(int number, const QString& description) {
+    QString reason = description;
+    switch (static_cast<ErrorNumber>(number)) {
+    case ErrorNumber::InvalidProcedureCall:
+    case ErrorNumber::SubscriptOutOfRange:
+        reason = EditMode::tr("the plate has no such sub-well");
+        break;
+    case ErrorNumber::ObjectNotSet:
+        reason = EditMode::tr("the sub-well has no lines of its own in the definition");
+        break;
+    case ErrorNumber::DuplicateKey:
+        reason = EditMode::tr("the plate has a sub-well of that name already");
+        break;
+    case ErrorNumber::Overflow:
+        reason = EditMode::tr("a value is too large");
+        break;
+    default:
+        break;
+    }
+    return EditMode::tr("This could not be done: %1. Undo brings the plate back as it was.")
+        .arg(reason);
+}
+
+} // namespace
 
 EditMode::EditMode(PlateSession& session, DifferencePanel& panel, QWidget& window)
     : QObject(&window), session_(session), panel_(panel), questions_(window) {
     connect(&session.Widget(), &PlateWidget::panelChanged, this, &EditMode::Follow);
     connect(&session, &PlateSession::refused, this, [this](int number, const QString& text) {
         if (!IsOn()) return;
-        panel_.ShowProblem(QString::fromStdString(CommandFailure(number, text.toStdString())));
+        panel_.ShowProblem(CommandFailure(number, text));
         Follow();
     });
     connect(&panel, &DifferencePanel::saveAsked, this, &EditMode::Save);
@@ -31,7 +60,7 @@ bool EditMode::Start(const QString& library, const QString& plate) {
     try {
         editor_.Begin(library.toStdString(), plate.toStdString());
     } catch (const RuntimeError& error) {
-        emit failed(QString::fromStdString(error.Description()));
+        emit failed(ErrorText(error));
         return false;
     }
     panel_.ShowProblem({});
@@ -136,7 +165,7 @@ bool EditMode::Saving(const std::function<void()>& save) {
 bool EditMode::Resolve(const RuntimeError& error) {
     Report(error);
     if (!error.Is(ErrorNumber::ChangedOnDisk)) return false;
-    switch (questions_.AskConflict(QString::fromStdString(error.Description()))) {
+    switch (questions_.AskConflict(ErrorText(error))) {
     case EditQuestions::Conflict::Reload:
         Reload();
         return false;
@@ -160,8 +189,6 @@ bool EditMode::Reload() {
     return true;
 }
 
-void EditMode::Report(const RuntimeError& error) {
-    panel_.ShowProblem(QString::fromStdString(error.Description()));
-}
+void EditMode::Report(const RuntimeError& error) { panel_.ShowProblem(ErrorText(error)); }
 
 } // namespace zorvane::viewer

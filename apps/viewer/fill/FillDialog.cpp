@@ -2,6 +2,7 @@
 
 #include "apps/viewer/PlateSession.h"
 #include "apps/viewer/fill/WalkPreview.h"
+#include "apps/viewer/texts/ErrorText.h"
 #include "apps/viewer/widgets/ColorButton.h"
 #include "apps/viewer/widgets/Notice.h"
 #include "hosts/qt/QtPalette.h"
@@ -148,21 +149,21 @@ void FillDialog::accept() {
     const auto before = session_.Control().CurrentWell();
     QString problem;
     session_.Edit([&] {
+        Plate& plate = session_.Control();
         try {
             Fill();
         } catch (const RuntimeError& error) {
-            problem = tr("Error %1: %2")
+            problem = tr("Error %1: %2.\nThe plate has columns 0 to %3 and rows 0 to %4. "
+                         "Nothing was filled.")
                           .arg(error.Number())
-                          .arg(QString::fromStdString(error.Description()));
-            session_.Control().CurrentWell(before);
+                          .arg(ErrorText(error))
+                          .arg(plate.Cols - 1)
+                          .arg(plate.Rows - 1);
+            plate.CurrentWell(before);
         }
     });
     if (problem.isEmpty()) return QDialog::accept();
-    const Plate& plate = session_.Control();
-    notice_->Show(problem + tr(".\nThe plate has columns 0 to %1 and rows 0 to %2. "
-                               "Nothing was filled.")
-                                .arg(plate.Cols - 1)
-                                .arg(plate.Rows - 1));
+    notice_->Show(problem);
 }
 
 QString FillDialog::Problem() const { return notice_->Text(); }

@@ -22,7 +22,7 @@ void WalkPreview::Show(const Walk& walk, int start, int stop) {
     walk_ = walk;
     start_ = start;
     stop_ = stop;
-    setAccessibleDescription(tr("%1 columns, %2 rows; the well at the top left is number %3")
+    setAccessibleDescription(tr("Columns: %1, rows: %2; the well at the top left is number %3")
                                  .arg(walk.width)
                                  .arg(walk.height)
                                  .arg(walk.NumberAt(0, 0)));

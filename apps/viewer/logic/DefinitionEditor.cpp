@@ -86,27 +86,4 @@ void DefinitionEditor::Reload() {
     if (block && EditedText(Library(), plate_) == history_.Present()) history_.SetSaved();
 }
 
-String CommandFailure(Long number, const String& description) {
-    const char* reason = nullptr;
-    switch (static_cast<ErrorNumber>(number)) {
-    case ErrorNumber::InvalidProcedureCall:
-    case ErrorNumber::SubscriptOutOfRange:
-        reason = "the plate has no such sub-well";
-        break;
-    case ErrorNumber::ObjectNotSet:
-        reason = "the sub-well has no lines of its own in the definition";
-        break;
-    case ErrorNumber::DuplicateKey:
-        reason = "the plate has a sub-well of that name already";
-        break;
-    case ErrorNumber::Overflow:
-        reason = "a value is too large";
-        break;
-    default:
-        break;
-    }
-    return "This could not be done: " + (reason ? String(reason) : description) +
-           ". Undo brings the plate back as it was.";
-}
-
 } // namespace zorvane::viewer

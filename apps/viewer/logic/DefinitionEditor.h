@@ -55,7 +55,4 @@ class DefinitionEditor {
     DefinitionHistory history_;
 };
 
-/// What is said of a command of the control's panel that failed.
-String CommandFailure(Long number, const String& description);
-
 } // namespace zorvane::viewer

@@ -3,7 +3,6 @@
 #include "runtime/Text.h"
 
 #include <algorithm>
-#include <string>
 
 namespace zorvane::viewer {
 
@@ -38,20 +37,6 @@ int FirstPlate(const LibraryListing& library) {
     });
     if (best == plates.end() || Suitability(*best) == 0) return -1;
     return static_cast<int>(best - plates.begin());
-}
-
-String StopText(const LibraryListing& library) {
-    if (library.stoppedAtLine == 0) return {};
-    const String line = "Reading stops at line " + std::to_string(library.stoppedAtLine);
-    const String rest = " and hides the plates after it.";
-    switch (library.code) {
-    case kStoppedAtStrayLine:
-        return line + ", which is not part of a plate" + rest;
-    case kStoppedAtFailedLine:
-        return line + ", which cannot be read" + rest;
-    default: // kStoppedAtInclude
-        return line + ": INCLUDE is not followed," + rest;
-    }
 }
 
 } // namespace zorvane::viewer

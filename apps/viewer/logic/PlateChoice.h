@@ -15,7 +15,4 @@ bool MatchesFilter(const LibraryEntry& plate, std::string_view typed);
 /// that is not the placeholder, else any; -1 when none can be shown.
 int FirstPlate(const LibraryListing& library);
 
-/// Why a listing ends before its file does, for people; empty when it does not.
-String StopText(const LibraryListing& library);
-
 } // namespace zorvane::viewer

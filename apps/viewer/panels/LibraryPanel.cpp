@@ -12,6 +12,38 @@
 
 namespace zorvane::viewer {
 
+namespace {
+
+/// Why a listing ends before its file does; empty when it does not.
+QString StopText(const LibraryListing& library) {
+    const Long line = library.stoppedAtLine;
+    if (line == 0) return {};
+    switch (library.code) {
+    case kStoppedAtStrayLine:
+        return LibraryPanel::tr("Reading stops at line %1, which is not part of a plate and hides "
+                                "the plates after it.")
+            .arg(line);
+    case kStoppedAtFailedLine:
+        return LibraryPanel::tr("Reading stops at line %1, which cannot be read and hides the "
+                                "plates after it.")
+            .arg(line);
+    default: // kStoppedAtInclude
+        return LibraryPanel::tr("Reading stops at line %1: INCLUDE is not followed, and hides the "
+                                "plates after it.")
+            .arg(line);
+    }
+}
+
+/// The numbers of rows, columns and sub-wells.
+QString DetailsOf(const LibraryEntry& plate) {
+    const QString text = plate.subWells == 1
+                             ? LibraryPanel::tr("%1 × %2 · 1 sub-well")
+                             : LibraryPanel::tr("%1 × %2 · %n sub-wells", nullptr, plate.subWells);
+    return text.arg(plate.rows).arg(plate.cols);
+}
+
+} // namespace
+
 LibraryPanel::LibraryPanel(QWidget* parent)
     : QWidget(parent), filter_(new QLineEdit), list_(new QListWidget), notice_(new Notice) {
     filter_->setPlaceholderText(tr("Filter by name or tag"));
@@ -44,17 +76,14 @@ void LibraryPanel::Show(const LibraryListing& library) {
     list_->clear();
     for (const LibraryEntry& plate : library.plates)
         AddPlate(plate);
-    const QString stop = QString::fromStdString(StopText(library));
+    const QString stop = StopText(library);
     const bool none = library.plates.empty() && stop.isEmpty();
     notice_->Show(none ? tr("There is no plate in this file.") : stop);
 }
 
 void LibraryPanel::AddPlate(const LibraryEntry& plate) {
-    const QString size = tr("%1 × %2").arg(plate.rows).arg(plate.cols);
-    const QString wells =
-        plate.subWells == 1 ? tr("1 sub-well") : tr("%1 sub-wells").arg(plate.subWells);
     auto* item = new QListWidgetItem(QString::fromStdString(plate.name), list_);
-    item->setData(PlateItemDelegate::kDetails, size + QStringLiteral(" · ") + wells);
+    item->setData(PlateItemDelegate::kDetails, DetailsOf(plate));
     item->setData(PlateItemDelegate::kTags, QString::fromStdString(plate.tags));
     item->setToolTip(tr("Line %1").arg(plate.line));
     if (plate.found) return;

@@ -30,7 +30,8 @@ QLabel* ValueLabel(const QString& accessibleName) {
 }
 
 QString Millimetres(Single length) {
-    return QString::fromStdString(FormatPicture(double{length}, "0.00")) + WellInspector::tr(" mm");
+    const QString number = QString::fromStdString(FormatPicture(double{length}, "0.00"));
+    return WellInspector::tr("%1 mm").arg(number);
 }
 
 QColor ColorOf(Long color, const QPalette& palette) {

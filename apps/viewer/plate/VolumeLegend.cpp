@@ -52,7 +52,7 @@ void SetColor(QLabel& swatch, Long color) {
 }
 
 QString VolumeText(Single volume) {
-    return QString::fromStdString(SingleText(volume)) + VolumeLegend::tr(" µl");
+    return VolumeLegend::tr("%1 µl").arg(QString::fromStdString(SingleText(volume)));
 }
 
 } // namespace

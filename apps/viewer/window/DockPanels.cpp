@@ -20,7 +20,6 @@ constexpr int kEventsHeight = 130; // pixels
 QDockWidget* AddDock(QMainWindow& window, const QString& title, QWidget* content,
                      Qt::DockWidgetArea area) {
     auto* dock = new QDockWidget(title, &window);
-    dock->setObjectName(title);
     dock->setWidget(content);
     window.addDockWidget(area, dock);
     return dock;

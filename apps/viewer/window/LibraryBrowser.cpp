@@ -4,7 +4,7 @@
 #include "apps/viewer/editing/EditMode.h"
 #include "apps/viewer/logic/PlateChoice.h"
 #include "apps/viewer/panels/LibraryPanel.h"
-#include "runtime/RuntimeError.h"
+#include "apps/viewer/texts/ErrorText.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -71,8 +71,7 @@ std::optional<LibraryListing> LibraryBrowser::Read(const QString& file) {
         return ListLibrary(file.toStdString());
     } catch (const RuntimeError& error) {
         emit failed(
-            tr("%1 cannot be opened: %2.")
-                .arg(QFileInfo(file).fileName(), QString::fromStdString(error.Description())));
+            tr("%1 cannot be opened: %2.").arg(QFileInfo(file).fileName(), ErrorText(error)));
         return std::nullopt;
     }
 }

@@ -45,11 +45,11 @@ void MainMenu::AddFileMenu(LibraryBrowser& library, WellDataFiles& data) {
     menu.addSeparator();
     QAction* import =
         menu.addAction(Icon("document-import"), tr("&Import Well Data…"),
-                       QKeySequence(tr("Ctrl+I")), &data, &WellDataFiles::AskAndImport);
+                       QKeyCombination(Qt::CTRL, Qt::Key_I), &data, &WellDataFiles::AskAndImport);
     import->setIconText(tr("Import"));
     QAction* exporting =
         menu.addAction(Icon("document-export"), tr("&Export Well Data…"),
-                       QKeySequence(tr("Ctrl+E")), &data, &WellDataFiles::AskAndExport);
+                       QKeyCombination(Qt::CTRL, Qt::Key_E), &data, &WellDataFiles::AskAndExport);
     exporting->setIconText(tr("Export"));
     menu.addSeparator();
     QAction* quit = menu.addAction(tr("&Quit"), QKeySequence::Quit, &window_, &QWidget::close);
@@ -70,13 +70,15 @@ void MainMenu::AddEditMenu(LibraryBrowser& library, EditMode& editing) {
 
 void MainMenu::AddWellsMenu() {
     QMenu& menu = *window_.menuBar()->addMenu(tr("&Wells"));
-    QAction* fill = menu.addAction(Icon("fill-color"), tr("&Fill Block…"),
-                                   QKeySequence(tr("Ctrl+F")), this, &MainMenu::ShowFillDialog);
+    QAction* fill =
+        menu.addAction(Icon("fill-color"), tr("&Fill Block…"), QKeyCombination(Qt::CTRL, Qt::Key_F),
+                       this, &MainMenu::ShowFillDialog);
     fill->setIconText(tr("Fill Block"));
     needWells_->addAction(fill);
     needWells_->addAction(menu.addAction(tr("&Clear Selected Wells"), QKeySequence::Delete,
                                          &session_, &PlateSession::ClearSelectedWells));
-    needWells_->addAction(menu.addAction(tr("&Deselect All"), QKeySequence(tr("Ctrl+Shift+A")),
+    needWells_->addAction(menu.addAction(tr("&Deselect All"),
+                                         QKeyCombination({Qt::CTRL, Qt::SHIFT}, Qt::Key_A),
                                          &session_, &PlateSession::Deselect));
     tools_->addAction(fill);
 }
@@ -86,7 +88,7 @@ void MainMenu::AddViewMenu() {
     QAction* volumes = menu.addAction(tr("&Colour Wells by Volume"));
     volumes->setIconText(tr("Volumes"));
     volumes->setCheckable(true);
-    volumes->setShortcut(QKeySequence(tr("Ctrl+L")));
+    volumes->setShortcut(QKeyCombination(Qt::CTRL, Qt::Key_L));
     connect(volumes, &QAction::toggled, &session_, &PlateSession::ColorByVolume);
     needWells_->addAction(volumes);
     tools_->addAction(volumes);

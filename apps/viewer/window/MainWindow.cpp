@@ -114,9 +114,9 @@ void MainWindow::ShowSelection() {
     const auto current = session_->CurrentWell();
     const QString well =
         current ? QString::fromStdString(session_->Names().Full(*current)) : QString();
-    const QString count =
-        selected == 1 ? tr("1 well selected") : tr("%1 wells selected").arg(selected);
-    selection_->setText(well.isEmpty() ? QString() : well + QStringLiteral("   ·   ") + count);
+    const QString text = selected == 1 ? tr("%1   ·   1 well selected")
+                                       : tr("%1   ·   %n wells selected", nullptr, selected);
+    selection_->setText(well.isEmpty() ? QString() : text.arg(well));
 }
 
 void MainWindow::Warn(const QString& text) {

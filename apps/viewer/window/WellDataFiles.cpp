@@ -1,6 +1,7 @@
 #include "apps/viewer/window/WellDataFiles.h"
 
 #include "apps/viewer/PlateSession.h"
+#include "apps/viewer/texts/ErrorText.h"
 #include "apps/viewer/window/LibraryBrowser.h"
 #include "library/DiskFiles.h"
 #include "library/ReplaceFile.h"
@@ -38,19 +39,21 @@ void WellDataFiles::Import(const QString& file) {
     const QString name = QFileInfo(file).fileName();
     QFile input(file);
     if (!input.open(QIODevice::ReadOnly)) {
-        emit failed(name + QStringLiteral(": ") + input.errorString());
+        emit failed(tr("%1: %2").arg(name, input.errorString()));
         return;
     }
     std::vector<WellDataRow> rows;
     try {
         rows = ParseWellData(input.readAll().toStdString(), session_.Names());
     } catch (const RuntimeError& error) {
-        emit failed(tr("%1, %2.\n\nNothing was changed.")
-                        .arg(name, QString::fromStdString(error.Description())));
+        emit failed(tr("%1, %2.\n\nNothing was changed.").arg(name, ErrorText(error)));
         return;
     }
     session_.Edit([&] { ApplyWellData(session_.Control(), rows); });
-    emit done(tr("Data of %1 wells were read from %2").arg(rows.size()).arg(name));
+    const auto count = static_cast<int>(rows.size());
+    emit done((count == 1 ? tr("Data of 1 well were read from %1")
+                          : tr("Data of %n wells were read from %1", nullptr, count))
+                  .arg(name));
 }
 
 void WellDataFiles::Export(const QString& file) {
@@ -60,7 +63,7 @@ void WellDataFiles::Export(const QString& file) {
     try {
         ReplaceFile(files, file.toStdString(), text);
     } catch (const RuntimeError& error) {
-        emit failed(QString::fromStdString(error.Description()));
+        emit failed(ErrorText(error));
         return;
     }
     emit done(tr("The data of all wells were written to %1").arg(name));
