@@ -73,6 +73,8 @@ void PlateWidgetPlugin::initialize(QDesignerFormEditorInterface* editor) {
     if (initialized_) return;
     initialized_ = true;
     inDesigner_ = editor != nullptr;
+    // A program that loads forms chooses its language itself.
+    if (inDesigner_) PlateWidget::installTranslation();
     if (QExtensionManager* const manager = editor ? editor->extensionManager() : nullptr)
         manager->registerExtensions(new PlateTaskMenuFactory(manager),
                                     Q_TYPEID(QDesignerTaskMenuExtension));
