@@ -149,7 +149,10 @@ void Plate::LayOut(Parts& parts, Boolean fullReset) {
 String Plate::TagList() const { return parts_->definition->TagListText(); }
 
 void Plate::SetProperty(const String& Name, const String& Value) {
-    parts_->definition->SetProperty(Name, Value);
+    Operate([&](Parts& parts) {
+        parts.definition->SetProperty(Name, Value);
+        parts.notifier.PlateChanged();
+    });
 }
 
 String Plate::GetProperty(const String& Name) const {
@@ -241,7 +244,10 @@ void Plate::SetDataDisplay(Integer Index) {
 }
 
 void Plate::GetDataDisplay(Integer Index) {
-    Operate([&](Parts& parts) { parts.panel.Read(Index); });
+    Operate([&](Parts& parts) {
+        parts.notifier.PlateChanged();
+        parts.panel.Read(Index);
+    });
 }
 
 void Plate::PageChosen(Integer position) {
@@ -283,6 +289,7 @@ void Plate::MenuChosen(SubWellCommand command) {
         parts.notifier.PanelChanged();
         const SubWellCommands::Rest rest = parts.commands.Run(command);
         if (rest == SubWellCommands::Rest::Nothing) return;
+        parts.notifier.PlateChanged();
         if (rest == SubWellCommands::Rest::LayOut) LayOut(parts, true);
         parts.surface.panel.cmdApply.enabled = true;
         parts.definition.SubWellsEdited(true);

@@ -35,7 +35,8 @@ class ZORVANE_EXPORT PlateObserver {
     // What has changed, told at the end of each operation (a call of the host or an input of the
     // operator) and before it raises an event or asks the operator; each at most once.
 
-    /// Another definition or another layout is shown; anything about any well may have changed.
+    /// The definition has changed, or another one or another layout is shown; anything about any
+    /// well may have changed.
     virtual void PlateChanged() {}
     /// Another well is the current one.
     virtual void CurrentWellChanged(Integer /*wellNo*/) {}

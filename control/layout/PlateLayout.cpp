@@ -18,7 +18,8 @@ void PlateLayout::PlaceWells(Boolean fullReset) {
     fullReset_ = fullReset;
     const Long subWells = definition_->CompoundWell()->Count();
     fields_.ZClear = fields_.PHeight + 1;
-    wells_.SetTotal(Checked(fields_.Cols) * fields_.Rows * subWells);
+    if (wells_.SetTotal(Checked(fields_.Cols) * fields_.Rows * subWells))
+        notifier_.SelectionChanged();
     if (fields_.FixedSize) FitScaleToControl();
     surface_.fraPlate.visible = false;
     surface_.paintOrder.clear();
@@ -67,7 +68,7 @@ void PlateLayout::FitScaleToControl() {
 
 void PlateLayout::RetireElements() {
     surface_.ResizeWells(static_cast<std::size_t>(std::max<Integer>(wells_.Total(), 0)));
-    wells_.Release();
+    if (wells_.Release()) notifier_.SelectionChanged();
     // The elements of well 0 exist even without wells.
     surface_.WellRim[0].visible = surface_.WellBottom[0].visible = false;
     surface_.WellText[0].visible = false;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace zorvane {
@@ -18,6 +19,8 @@ class WellRecords {
         WellValues values;
         Boolean present = false;
     };
+
+    static Boolean IsSelected(const Entry& entry) { return entry.values.Selected; }
 
     template <class Self>
     static auto& EntryOf(Self& self, Integer wellNo) {
@@ -38,24 +41,28 @@ class WellRecords {
     Boolean IsShown(Integer wellNo) const { return wellNo < total_; }
 
     /// Takes the number of wells of another plate. When there were fewer records all are created
-    /// again, empty.
-    void SetTotal(Integer wells) {
+    /// again, empty. Returns whether a selected well went.
+    [[nodiscard]] Boolean SetTotal(Integer wells) {
         total_ = wells;
-        if (allocated_ >= wells) return;
+        if (allocated_ >= wells) return false;
+        const Boolean selected = std::any_of(entries_.begin(), entries_.end(), IsSelected);
         entries_.clear();
         entries_.resize(static_cast<std::size_t>(wells) + 1);
         for (std::size_t i = 0; i + 1 < entries_.size(); ++i)
             entries_[i].present = true;
         allocated_ = wells;
+        return selected;
     }
 
     /// Empties the entries that have no well; entry 0 stays. A later, larger plate creates all of
-    /// them again.
-    void Release() {
+    /// them again. Returns whether a selected well went.
+    [[nodiscard]] Boolean Release() {
+        Boolean selected = false;
         const auto first = static_cast<std::size_t>(std::max<Integer>(total_, 1));
         for (std::size_t i = first; i < entries_.size() && entries_[i].present; ++i)
-            entries_[i] = Entry{};
+            selected |= std::exchange(entries_[i], {}).values.Selected;
         allocated_ = total_;
+        return selected;
     }
 
     WellValues& operator[](Integer wellNo) { return EntryOf(*this, wellNo).values; }

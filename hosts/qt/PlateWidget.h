@@ -560,12 +560,13 @@ class ZORVANE_EXPORT PlateWidget : public QWidget {
 
     void currentWellChanged(int wellNo);
     /// Another well is current, or the data, the sub-well or the plate of the current one changed.
+    /// Follows each of the signals about those.
     void currentWellDataChanged();
     /// Other wells are selected.
     void selectionChanged();
     /// Text, error code, volume, annotation, mark or colour of wells in this range has changed.
     void wellDataChanged(int first, int last);
-    /// Another plate definition, or another layout of it, is shown.
+    /// The plate definition has changed, or another one or another layout is shown.
     void plateChanged();
     void fileNameChanged(const QString& name);
     void plateNameChanged(const QString& name);

@@ -117,7 +117,10 @@ void PlateWidget::resetFixedSize() { setFixedSize(saved::kFixedSize.fallback); }
 
 double PlateWidget::drawingScale() const { return double{plate().DrawingScale()}; }
 
-void PlateWidget::setDrawingScale(double scale) { d_->Set(&Plate::DrawingScale, scale); }
+void PlateWidget::setDrawingScale(double scale) {
+    d_->Set(&Plate::DrawingScale, scale);
+    if (plateName().isEmpty()) emit plateChanged(); // the control has no layout to tell of yet
+}
 
 void PlateWidget::resetDrawingScale() { setDrawingScale(double{saved::kDrawingScale.fallback}); }
 
