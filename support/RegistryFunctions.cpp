@@ -30,7 +30,7 @@ struct Key {
 
 void ShowFailure(const char* function, const String& what, Long result) {
     CurrentMessages().Show({what + "\r\nAPI Error=" + std::to_string(result),
-                                      String("Registry Functions::") + function + "()"});
+                            String("Registry Functions::") + function + "()"});
 }
 
 /// A stored number as "&H" and 8 hexadecimal digits; its bytes come lowest first.

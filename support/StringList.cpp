@@ -47,8 +47,7 @@ void StringList::SaveToFile(const String& fileName) const {
             file.WriteLine("\"" + entry->Text + "\""); // quotes inside stay single
         file.Close();
     } catch (const RuntimeError&) {
-        CurrentMessages().Show(
-            {"Problem saving \r\n<" + fileName + ">", "File not saved"});
+        CurrentMessages().Show({"Problem saving \r\n<" + fileName + ">", "File not saved"});
     }
 }
 

@@ -19,8 +19,8 @@ CommandLine::CommandLine(const QCoreApplication& app) {
                       tr("The image file that --picture writes."),
                       tr("file")});
     parser.addPositionalArgument(
-        tr("library"),
-        tr("Plate library to open; else the one that the registry leads to."), tr("[library]"));
+        tr("library"), tr("Plate library to open; else the one that the registry leads to."),
+        tr("[library]"));
     parser.process(app);
     const QStringList files = parser.positionalArguments();
     picture = parser.value(QStringLiteral("picture"));
