@@ -75,9 +75,10 @@ void PlateWidgetPlugin::initialize(QDesignerFormEditorInterface* editor) {
     inDesigner_ = editor != nullptr;
     // A program that loads forms chooses its language itself.
     if (inDesigner_) PlateWidget::installTranslation();
-    if (QExtensionManager* const manager = editor ? editor->extensionManager() : nullptr)
+    if (QExtensionManager* const manager = editor ? editor->extensionManager() : nullptr) {
         manager->registerExtensions(new PlateTaskMenuFactory(manager),
                                     Q_TYPEID(QDesignerTaskMenuExtension));
+    }
 }
 
 } // namespace zorvane
