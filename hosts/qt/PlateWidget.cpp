@@ -23,7 +23,7 @@ PlateWidget::PlateWidget(QWidget* parent) : QWidget(parent) {
     // A press takes the focus where the control says so.
     setFocusPolicy(Qt::TabFocus);
     setMaximumSize(kLongestSide, kLongestSide);
-    resize(sizeHint());
+    resize(d_->sizing.Asked());
 }
 
 // The focus may move from one part to another while they go, so d_ stays valid until the end.

@@ -96,11 +96,10 @@ void QtCanvas::DrawText(const TextStyle& style, const Rect& box, std::string_vie
     if (text.empty()) return;
     painter_.setFont(FaceFor(style.bold).font);
     painter_.setPen(ToColor(style.color));
-    const auto align = style.align == TextAlign::Left ? Qt::AlignLeft | Qt::AlignAbsolute
-                                                      : Qt::Alignment(Qt::AlignHCenter);
-    painter_.drawText(DevicePixels(box),
-                      align | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
-                      ToText(text));
+    const Qt::Alignment across = style.align == TextAlign::Left ? Qt::AlignLeft | Qt::AlignAbsolute
+                                                                : Qt::Alignment(Qt::AlignHCenter);
+    const auto flags = (across | Qt::AlignVCenter).toInt() | Qt::TextSingleLine | Qt::TextDontClip;
+    painter_.drawText(DevicePixels(box), static_cast<int>(flags), ToText(text));
 }
 
 Single QtCanvas::TextWidth(std::string_view text, Boolean bold) const {

@@ -63,8 +63,8 @@ const QImage* ShapeImages::Find(const ShapeStyle& style, QSize size) {
     painter.end();
     const int bytes = static_cast<int>(image->sizeInBytes());
     const QImage* painted = image.get();
-    images_.insert(key, image.release(), bytes);
-    return painted;
+    // The cache deletes an image that is larger than all of it.
+    return images_.insert(key, image.release(), bytes) ? painted : nullptr;
 }
 
 } // namespace zorvane
