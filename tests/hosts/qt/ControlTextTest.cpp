@@ -28,7 +28,7 @@ TEST(ControlText, HasEveryTextThatTheControlShows) {
         plate.PlateClassText(DropOnReservoir() + "SHELFDEPTH 1\r\nVOLUME 1\r\nRIMCENTERX 1\r\n");
         plate.EditEnable(step >= 5);
         plate.DataVisible(true);
-        plate.PageChosen(step % 5);
+        plate.PageChosen(static_cast<Integer>(step % 5));
         for (const RowCaption& caption : plate.Elements().panel.lblAnnotation)
             if (caption.visible) texts.push_back(caption.caption);
         plate.PageChosen(3);
