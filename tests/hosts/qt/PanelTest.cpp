@@ -14,12 +14,16 @@ namespace {
 /// Answers the next menu or dialog that opens.
 template <class Dialog>
 void Answer(std::function<void(Dialog&)> answer) {
-    QTimer::singleShot(0, qApp, [answer] {
+    auto* const waiting = new QTimer(qApp);
+    QObject::connect(waiting, &QTimer::timeout, waiting, [waiting, answer] {
         auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
         if (!dialog) dialog = qobject_cast<Dialog*>(QApplication::activePopupWidget());
-        if (!dialog) return Answer<Dialog>(answer);
+        if (!dialog) return; // it has not opened yet
+        waiting->stop();
+        waiting->deleteLater();
         answer(*dialog);
     });
+    waiting->start();
 }
 
 TEST(PanelMirror, BytesThatAreNoUtf8SurviveAnEdit) {
