@@ -67,7 +67,7 @@ void PlatePicture::Load(const PictureRequest& request) {
     }
     KeptMessage failure;
     const TakenMessages taken(failure);
-    if (!plate_.SetPlate(request.plate, request.library))
+    if (!plate_.SetPlate(request.plate, request.fileName))
         Raise(ErrorNumber::InvalidProcedureCall, failure.text);
 }
 

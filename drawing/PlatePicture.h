@@ -21,7 +21,7 @@ struct DrawnWell {
 /// What a picture shows: a plate of a library, or one from its definition text, and its wells.
 struct PictureRequest {
     String plate{};      ///< a name in the library, in any letter case
-    String library{};    ///< its file; the default library where this is empty
+    String fileName{};   ///< the library; the default one where this is empty
     String definition{}; ///< its text, used instead of the library where this is not empty
 
     Single scale = kDefaultScale; ///< drawing units (1/1440 inch) a millimetre

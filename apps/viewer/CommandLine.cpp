@@ -25,9 +25,9 @@ CommandLine::CommandLine(const QCoreApplication& app) {
     const QStringList files = parser.positionalArguments();
     picture = parser.value(QStringLiteral("picture"));
     output = parser.value(QStringLiteral("output"));
-    library = files.value(0);
+    fileName = files.value(0);
     const bool incomplete =
-        parser.isSet(QStringLiteral("picture")) && (output.isEmpty() || library.isEmpty());
+        parser.isSet(QStringLiteral("picture")) && (output.isEmpty() || fileName.isEmpty());
     if (incomplete || files.size() > 1) parser.showHelp(EXIT_FAILURE);
 }
 

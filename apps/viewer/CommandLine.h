@@ -11,9 +11,9 @@ struct CommandLine {
     /// wrong.
     explicit CommandLine(const QCoreApplication& app);
 
-    QString picture; ///< the plate to draw; empty to open a window
-    QString output;  ///< the image file to draw it to
-    QString library; ///< empty for the default one
+    QString picture;  ///< the plate to draw; empty to open a window
+    QString output;   ///< the image file to draw it to
+    QString fileName; ///< the library to open; empty for the default one
 
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 };

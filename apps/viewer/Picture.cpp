@@ -46,7 +46,7 @@ QImage ImageOf(PlatePicture& picture) {
 
 QString WritePicture(const QString& library, const QString& plateName, const QString& file) {
     try {
-        PlatePicture picture({.plate = plateName.toStdString(), .library = library.toStdString()});
+        PlatePicture picture({.plate = plateName.toStdString(), .fileName = library.toStdString()});
         QImageWriter writer(file);
         if (writer.write(ImageOf(picture))) return {};
         return file + QStringLiteral(": ") + writer.errorString();

@@ -17,7 +17,7 @@ namespace {
 using namespace zorvane::viewer;
 
 int Draw(const CommandLine& asked) {
-    const QString failure = WritePicture(asked.library, asked.picture, asked.output);
+    const QString failure = WritePicture(asked.fileName, asked.picture, asked.output);
     if (failure.isEmpty()) return EXIT_SUCCESS;
     QTextStream(stderr) << "plate-viewer: " << failure << "\n";
     return EXIT_FAILURE;
@@ -68,7 +68,7 @@ int main(int argc, char** argv) {
     if (!asked.picture.isEmpty()) return Draw(asked);
     MainWindow window;
     window.show();
-    const QString file = asked.library.isEmpty() ? DefaultLibrary(window) : asked.library;
+    const QString file = asked.fileName.isEmpty() ? DefaultLibrary(window) : asked.fileName;
     if (!file.isEmpty()) window.OpenLibrary(file);
     return QApplication::exec();
 }

@@ -12,7 +12,7 @@ namespace {
 
 void WritePicture(const std::string& library, const std::string& plate, const std::string& file) {
     zorvane::PictureRequest request;
-    request.library = library;
+    request.fileName = library;
     request.plate = plate;
     request.width = 640;
     request.height = 440;
@@ -22,7 +22,7 @@ void WritePicture(const std::string& library, const std::string& plate, const st
 }
 
 void PrintPlaces(const std::string& library, const std::string& name) {
-    zorvane::PlatePicture picture({.plate = name, .library = library});
+    zorvane::PlatePicture picture({.plate = name, .fileName = library});
     const zorvane::Plate& plate = picture.Control();
     for (zorvane::Integer row = 0; row < plate.Rows; ++row) {
         for (zorvane::Integer col = 0; col < plate.Cols; ++col) {

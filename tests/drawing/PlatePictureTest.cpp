@@ -9,7 +9,7 @@ namespace {
 TEST(PlatePictureTest, DrawsALibrarysPlateAndADefinitionAlike) {
     const TempFile library(OneDrop());
     const String drawn = DrawPlate({.plate = "DEMO",
-                                    .library = library.Path(),
+                                    .fileName = library.Path(),
                                     .width = 400,
                                     .height = 300,
                                     .selected = {"A1", "b3.drop1"},
@@ -24,7 +24,7 @@ TEST(PlatePictureTest, DrawsALibrarysPlateAndADefinitionAlike) {
     const String same = DrawPlate({.definition = definition});
     std::erase(definition, '\r');
     EXPECT_EQ(DrawPlate({.definition = definition}), same);
-    EXPECT_EQ(DrawPlate({.plate = "Demo", .library = library.Path()}), same);
+    EXPECT_EQ(DrawPlate({.plate = "Demo", .fileName = library.Path()}), same);
 }
 
 TEST(PlatePictureTest, FailsWithoutAMessageBox) {
@@ -34,9 +34,9 @@ TEST(PlatePictureTest, FailsWithoutAMessageBox) {
         const RaisedError error = RaisedBy([&] { DrawPlate(request); });
         return std::to_string(error.number) + ": " + error.description;
     };
-    EXPECT_EQ(failure({.plate = "Nope", .library = library.Path()}),
+    EXPECT_EQ(failure({.plate = "Nope", .fileName = library.Path()}),
               "5: Can't find Plate <Nope> in " + library.Path());
-    EXPECT_EQ(failure({.library = library.Path()}), "5: No plate is named");
+    EXPECT_EQ(failure({.fileName = library.Path()}), "5: No plate is named");
     EXPECT_EQ(failure({.definition = "ROWS 8"}), "5: The text defines no plate");
     EXPECT_EQ(failure({.definition = OneDrop(), .selected = {"Z1"}}),
               "9: The plate has no well Z1");

@@ -17,7 +17,7 @@ TEST(PlateImageTest, ShowsThePlateInTheSizeAskedFor) {
             colored += marked.pixel(x, y) == qRgb(0x11, 0x22, 0x33) ? 1 : 0;
     }
     EXPECT_GT(colored, 100);
-    EXPECT_EQ(NumberRaisedBy([] { DrawPlateImage({.plate = "Nope", .library = "none.dat"}); }), 5);
+    EXPECT_EQ(NumberRaisedBy([] { DrawPlateImage({.plate = "Nope", .fileName = "none.dat"}); }), 5);
 }
 
 } // namespace
