@@ -40,6 +40,8 @@ QIcon PlateWidgetPlugin::icon() const {
     return pixmap;
 }
 
+// The elements are those of Qt's form files. The last two give file and plate name an editor of one
+// line, and keep both from translators.
 QString PlateWidgetPlugin::domXml() const {
     return QStringLiteral(R"(<ui language="c++" displayname="Plate">
  <widget class="zorvane::PlateWidget" name="plate">
@@ -73,9 +75,9 @@ void PlateWidgetPlugin::initialize(QDesignerFormEditorInterface* editor) {
     if (initialized_) return;
     initialized_ = true;
     inDesigner_ = editor != nullptr;
-    // A program that loads forms chooses its language itself.
-    if (inDesigner_) PlateWidget::installTranslation();
-    if (QExtensionManager* const manager = editor ? editor->extensionManager() : nullptr) {
+    if (!inDesigner_) return; // a program that loads forms chooses its language itself
+    PlateWidget::installTranslation();
+    if (QExtensionManager* const manager = editor->extensionManager()) {
         manager->registerExtensions(new PlateTaskMenuFactory(manager),
                                     Q_TYPEID(QDesignerTaskMenuExtension));
     }
