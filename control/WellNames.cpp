@@ -1,6 +1,7 @@
 #include "control/WellNames.h"
 
 #include "control/LegendLabels.h"
+#include "control/WellGrid.h"
 #include "runtime/Text.h"
 
 #include <algorithm>
@@ -63,19 +64,24 @@ bool WellNames::IsWell(Integer wellNo) const {
 
 String WellNames::Position(Integer wellNo) const {
     if (!IsWell(wellNo)) return {};
-    const int position = wellNo % (Rows() * Cols());
-    return Legend(static_cast<Integer>(position / Cols()), static_cast<Integer>(position % Cols()));
+    const WellPlace place = WellGrid{Rows(), Cols()}.PlaceOf(wellNo);
+    return Legend(place.row, place.col);
 }
 
 String WellNames::SubWell(Integer wellNo) const {
     if (!IsWell(wellNo)) return {};
-    return subWells_[static_cast<std::size_t>(wellNo / (Rows() * Cols()))];
+    const WellPlace place = WellGrid{Rows(), Cols()}.PlaceOf(wellNo);
+    return subWells_[static_cast<std::size_t>(place.subWell - 1)];
 }
 
 String WellNames::Joined(Integer wellNo, const char* separator) const {
     const String subWell = SubWell(wellNo);
     if (subWells_.size() < 2 || subWell.empty()) return Position(wellNo);
     return Position(wellNo) + separator + subWell;
+}
+
+Integer WellNames::WellNumber(Integer position, Integer subWell) const {
+    return WellGrid{Rows(), Cols()}.NumberOf({subWell, 0, position});
 }
 
 // A legend may have full stops, as may the name of a sub-well.

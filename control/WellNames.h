@@ -41,9 +41,7 @@ class ZORVANE_EXPORT WellNames {
     std::optional<Integer> FindSubWell(std::string_view name) const;
 
     /// The number of the well that a sub-well has at a position.
-    Integer WellNumber(Integer position, Integer subWell) const {
-        return static_cast<Integer>((subWell - 1) * Rows() * Cols() + position);
-    }
+    Integer WellNumber(Integer position, Integer subWell) const;
 
   private:
     bool IsWell(Integer wellNo) const;

@@ -1,5 +1,7 @@
 #include "welldata/VolumeScale.h"
 
+#include "control/WellGrid.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -51,9 +53,10 @@ std::optional<Single> KnownVolume(const Plate& plate, Integer wellNo) {
 }
 
 VolumeScale::VolumeScale(const Plate& plate, Integer subWell) {
-    const int wells = plate.Rows * plate.Cols;
-    for (int well = (subWell - 1) * wells; well < subWell * wells; ++well)
-        Include(plate.GetVolume(static_cast<Integer>(well)));
+    const WellGrid grid{plate.Rows, plate.Cols};
+    const Integer end = grid.NumberOf({subWell, plate.Rows, 0});
+    for (Integer well = grid.NumberOf({subWell, 0, 0}); well < end; ++well)
+        Include(plate.GetVolume(well));
 }
 
 void VolumeScale::Include(Single volume) {

@@ -1,5 +1,6 @@
 #include "apps/plate/draw/ShownWellData.h"
 
+#include "control/WellGrid.h"
 #include "runtime/NumberText.h"
 #include "welldata/WellDataCsv.h"
 
@@ -104,8 +105,9 @@ void ShownWellData::Show(Plate& plate, Integer well) {
     if (IsInError(plate, well)) {
         inError_.push_back(static_cast<std::size_t>(well));
     } else if (volume && ShowsVolumes()) {
-        const auto subWell = static_cast<std::size_t>(well / (plate.Rows * plate.Cols));
-        plate.WellFill(well, scales_[subWell].scale.ColorOf(*volume));
+        const Integer subWell = WellGrid{plate.Rows, plate.Cols}.PlaceOf(well).subWell;
+        const VolumeScale& scale = scales_[static_cast<std::size_t>(subWell - 1)].scale;
+        plate.WellFill(well, scale.ColorOf(*volume));
     }
     plate.WellAnnotation(well, CaptionOf(plate, well));
 }
