@@ -71,8 +71,9 @@ endfunction()
 
 zorvane_library(Core
     DESCRIPTION "Plate diagram control: the core, which knows no toolkit"
-    FLOORS runtime platform platform_memory support model control drawing
+    FLOORS runtime calibration platform platform_memory support model control drawing
     HEADERS
+        calibration/StageCalibration.h
         control/Elements.h
         control/InputRouter.h
         control/LegendLabels.h
