@@ -2,10 +2,9 @@
 
 #include "runtime/NumberText.h"
 #include "runtime/Text.h"
-#include "welldata/CsvReader.h"
+#include "welldata/CsvColumns.h"
 #include "welldata/VolumeScale.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -23,79 +22,32 @@ constexpr std::array<const char*, kColumns> kNames{"well", "sub-well", "defined"
 
 String Quoted(const String& text) { return "\"" + text + "\""; }
 
-String AllNames() {
-    String names;
-    for (const char* name : kNames)
-        names += (names.empty() ? "" : ", ") + String(name);
-    return names;
-}
-
-/// Which column of the file holds what.
-class Header {
-  public:
-    explicit Header(const CsvRecord& record) : line_(record.line) {
-        for (const String& name : record.fields)
-            Add(String(Trim(name)));
-        if (!Has(Well)) FailAt(line_, 1, "no column is named " + Quoted(kNames[Well]));
-    }
-
-    std::size_t Count() const { return columns_.size(); }
-    bool Has(Column column) const { return PlaceOf(column) < Count(); }
-    std::size_t PlaceOf(Column column) const {
-        return static_cast<std::size_t>(std::find(columns_.begin(), columns_.end(), column) -
-                                        columns_.begin());
-    }
-    String NameAt(std::size_t place) const { return kNames[columns_[place]]; }
-
-  private:
-    void Add(const String& name) {
-        const auto* const known =
-            std::find_if(kNames.begin(), kNames.end(),
-                         [&](const char* candidate) { return EqualNoCase(candidate, name); });
-        if (known == kNames.end()) {
-            FailAt(line_, Count() + 1,
-                   "there is no column " + Quoted(name) + "; the columns are " + AllNames());
-        }
-        const auto column = static_cast<Column>(known - kNames.begin());
-        if (Has(column)) FailAt(line_, Count() + 1, "the column is there twice", *known);
-        columns_.push_back(column);
-    }
-
-    Long line_;
-    std::vector<Column> columns_;
-};
-
 /// Turns the fields of one record into values.
 class RowParser {
   public:
-    RowParser(const Header& header, const WellNames& names, const CsvRecord& record)
-        : header_(header), names_(names), record_(record) {
-        const std::size_t count = record.fields.size();
-        if (count > header.Count()) FailAt(record.line, header.Count() + 1, "a field too many");
-        if (count < header.Count()) {
-            FailAt(record.line, count + 1, "the line ends before this column",
-                   header.NameAt(count));
-        }
+    RowParser(const CsvColumns& columns, const WellNames& names, const CsvRecord& record)
+        : columns_(columns), names_(names), record_(record) {
+        columns.RequireAllFields(record);
     }
 
     WellDataRow Parse() const {
         WellDataRow row;
         row.wellNo = ParseWell();
-        if (header_.Has(Defined)) row.defined = ParseDefined();
-        if (header_.Has(Volume)) row.volume = ParseVolume();
-        if (header_.Has(Text)) row.text = Field(Text);
-        if (header_.Has(Error)) row.errorCode = ParseErrorCode();
-        if (header_.Has(Annotation)) row.annotation = Field(Annotation);
+        if (columns_.Has(Defined)) row.defined = ParseDefined();
+        if (columns_.Has(Volume)) row.volume = ParseVolume();
+        if (columns_.Has(Text)) row.text = Field(Text);
+        if (columns_.Has(Error)) row.errorCode = ParseErrorCode();
+        if (columns_.Has(Annotation)) row.annotation = Field(Annotation);
         return row;
     }
 
     [[noreturn]] void Fail(Column column, const String& message) const {
-        FailAt(record_.line, header_.PlaceOf(column) + 1, message, kNames[column]);
+        columns_.Fail(record_, column, message);
     }
 
   private:
-    const String& Field(Column column) const { return record_.fields[header_.PlaceOf(column)]; }
-    String Trimmed(Column column) const { return String(Trim(Field(column))); }
+    const String& Field(Column column) const { return columns_.Field(record_, column); }
+    String Trimmed(Column column) const { return columns_.Trimmed(record_, column); }
 
     Integer ParseWell() const {
         const String legend = Trimmed(Well);
@@ -105,7 +57,7 @@ class RowParser {
     }
 
     Integer ParseSubWell() const {
-        if (!header_.Has(SubWell) || Trimmed(SubWell).empty()) return 1;
+        if (!columns_.Has(SubWell) || Trimmed(SubWell).empty()) return 1;
         const auto position = names_.FindSubWell(Trimmed(SubWell));
         if (!position) Fail(SubWell, "the plate has no sub-well " + Quoted(Trimmed(SubWell)));
         return *position;
@@ -118,16 +70,8 @@ class RowParser {
         Fail(Defined, Quoted(Trimmed(Defined)) + " is neither yes nor no");
     }
 
-    /// 0 for an empty field.
-    Double ParseNumber(Column column) const {
-        const String text = Trimmed(column);
-        if (text.empty()) return 0;
-        if (!IsNumber(text)) Fail(column, Quoted(text) + " is not a number");
-        return LeadingNumber(text);
-    }
-
     Single ParseVolume() const {
-        const Double volume = ParseNumber(Volume);
+        const Double volume = columns_.Number(record_, Volume);
         if (std::abs(volume) > Double{std::numeric_limits<Single>::max()})
             Fail(Volume, Trimmed(Volume) + " is too large");
         return static_cast<Single>(volume);
@@ -135,13 +79,13 @@ class RowParser {
 
     Integer ParseErrorCode() const {
         using Limits = std::numeric_limits<Integer>;
-        const Double code = ParseNumber(Error);
+        const Double code = columns_.Number(record_, Error);
         if (code != std::trunc(code) || code < Limits::min() || code > Limits::max())
             Fail(Error, Trimmed(Error) + " is not a whole number from -32768 to 32767");
         return static_cast<Integer>(code);
     }
 
-    const Header& header_;
+    const CsvColumns& columns_;
     const WellNames& names_;
     const CsvRecord& record_;
 };
@@ -176,12 +120,13 @@ std::vector<WellDataRow> ParseWellData(std::string_view csv, const WellNames& na
     CsvReader reader(csv);
     CsvRecord record;
     if (!reader.Next(record)) FailAt(1, 1, "the file is empty");
-    const Header header(record);
+    const CsvColumns columns(kNames, record);
+    columns.Require(Well);
 
     std::vector<WellDataRow> rows;
     std::unordered_map<Integer, Long> lines;
     while (reader.Next(record)) {
-        const RowParser parser(header, names, record);
+        const RowParser parser(columns, names, record);
         rows.push_back(parser.Parse());
         const auto [first, isNew] = lines.emplace(rows.back().wellNo, record.line);
         if (!isNew) {
