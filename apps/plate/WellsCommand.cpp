@@ -1,8 +1,11 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
+#include "apps/plate/calibration/CalibrationFile.h"
+#include "apps/plate/calibration/CalibrationTable.h"
 #include "apps/plate/table/Table.h"
 #include "model/cmPlate.h"
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 
@@ -14,6 +17,9 @@ struct Options {
     String plateLibrary;
     String plate;
     TableForm form = TableForm::Aligned;
+    String calibration;
+    StageAxes axes = StageAxes::LikePlate;
+    bool residuals = false;
 };
 
 std::vector<Cell> WellRow(const cmPlate& plate, Integer row, Integer col) {
@@ -41,14 +47,64 @@ Table TableOf(const cmPlate& plate) {
     return table;
 }
 
+/// Adds where the centres, which the columns "x" and "y" have, lie on the stage.
+void AddStageColumns(Table& table, const StageCalibration& calibration) {
+    const auto place = [&](const char* column) {
+        return std::find(table.columns.begin(), table.columns.end(), column) -
+               table.columns.begin();
+    };
+    const auto x = static_cast<std::size_t>(place("x"));
+    const auto y = static_cast<std::size_t>(place("y"));
+    const StageNumbers numbers(calibration);
+    table.columns.insert(table.columns.end(), {"stage-x", "stage-y"});
+    for (auto& row : table.rows) {
+        const PlanePoint stage =
+            calibration.ToStage({std::get<Single>(row[x]), std::get<Single>(row[y])});
+        row.insert(row.end(), {numbers.Cell(stage.x), numbers.Cell(stage.y)});
+    }
+}
+
+/// The wells on the stage, or how well the calibration fits its own points.
+Table CalibratedTable(const cmPlate& plate, const Options& options) {
+    const String file = ReadFile(options.calibration);
+    return WithFile(options.calibration, [&] {
+        const MeasuredPoints measured = ReadMeasuredPoints(file, plate);
+        const StageCalibration calibration(measured.points, options.axes);
+        ReportFit(options.calibration, calibration);
+        if (options.residuals) return ResidualTable(measured, calibration);
+        Table table = TableOf(plate);
+        AddStageColumns(table, calibration);
+        return table;
+    });
+}
+
 ExitCode Run(const Options& options) {
     cmPlate plate;
     if (!plate.SetPlate(options.plateLibrary, options.plate)) return kFailed;
     if (Long{plate.Rows()} * plate.Cols() > std::numeric_limits<Integer>::max())
         Fail(options.plate + ": a plate cannot have more than 32767 wells");
-    const Table table = WithFile(options.plate, [&] { return TableOf(plate); });
+    const Table table = options.calibration.empty()
+                            ? WithFile(options.plate, [&] { return TableOf(plate); })
+                            : CalibratedTable(plate, options);
     Print(TableText(table, options.form));
     return kDone;
+}
+
+void AddCalibrationOptions(CLI::App& parser, Options& options) {
+    auto* const file =
+        parser.add_option("--calibration", options.calibration,
+                          "CSV file of points measured on an instrument's stage: add "
+                          "where the centres lie there");
+    parser
+        .add_flag_callback(
+            "--mirrored", [&options] { options.axes = StageAxes::Mirrored; },
+            "The stage's axes turn the other way than the plate's, as with Y upwards; for two "
+            "points, which do not tell")
+        ->needs(file);
+    parser
+        .add_flag("--residuals", options.residuals,
+                  "Instead of the wells, show how far each point of the calibration is off")
+        ->needs(file);
 }
 
 } // namespace
@@ -61,12 +117,17 @@ Command MakeWellsCommand(CLI::App& app) {
     parser->add_option("plate", options->plate, "Name of the plate, in any letter case")
         ->required();
     AddFormOptions(*parser, options->form);
+    AddCalibrationOptions(*parser, *options);
     parser->footer(
         "Rows and columns count from 0. x and y are the centre of a position over all its\n"
         "sub-wells, the others its box, rims included: mm from the top left corner.\n"
+        "A calibration has the columns well (as A1 or A1.Drop1), or x and y in mm, and stage-x "
+        "and\n"
+        "stage-y. Two points give a turn, a scale and a shift; three or more the best affine map.\n"
         "Examples:\n"
         "  plate wells Plates.Dat Batch_96\n"
-        "  plate wells Plates.Dat Batch_96 --csv > wells.csv");
+        "  plate wells Plates.Dat Batch_96 --csv > wells.csv\n"
+        "  plate wells Plates.Dat Batch_96 --calibration stage.csv");
     return {parser, [options] { return Run(*options); }};
 }
 

@@ -9,6 +9,7 @@ namespace {
 String CsvCell(const Cell& cell) {
     if (const auto* const number = std::get_if<std::int64_t>(&cell)) return std::to_string(*number);
     if (const auto* const number = std::get_if<Single>(&cell)) return MillimetreText(*number);
+    if (const auto* const number = std::get_if<NumberText>(&cell)) return number->digits;
     return CsvText(std::get<String>(cell));
 }
 

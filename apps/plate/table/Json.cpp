@@ -31,6 +31,7 @@ String JsonString(std::string_view text) {
 String JsonCell(const Cell& cell) {
     if (const auto* const number = std::get_if<std::int64_t>(&cell)) return std::to_string(*number);
     if (const auto* const number = std::get_if<Single>(&cell)) return MillimetreText(*number);
+    if (const auto* const number = std::get_if<NumberText>(&cell)) return number->digits;
     return JsonString(std::get<String>(cell));
 }
 

@@ -16,6 +16,7 @@ constexpr std::size_t kGap = 2;
 String AlignedCell(const Cell& cell) {
     if (const auto* const text = std::get_if<String>(&cell)) return PrintableUtf8(*text);
     if (const auto* const number = std::get_if<std::int64_t>(&cell)) return std::to_string(*number);
+    if (const auto* const number = std::get_if<NumberText>(&cell)) return number->digits;
     return FormatPicture(std::get<Single>(cell), "0.000");
 }
 

@@ -10,8 +10,13 @@
 
 namespace zorvane {
 
-/// One value of a table: a text, a count or a length in mm.
-using Cell = std::variant<String, std::int64_t, Single>;
+/// A number as it is to be written.
+struct NumberText {
+    String digits;
+};
+
+/// One value of a table: a text, a count, a length in mm or any other number.
+using Cell = std::variant<String, std::int64_t, Single, NumberText>;
 
 struct Table {
     std::vector<String> columns;
