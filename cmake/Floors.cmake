@@ -8,6 +8,8 @@ if(NOT MSVC)
         -Wall -Wextra -Wpedantic -Wconversion -Wshadow
         # No function of the floors is replaced at load time, so that the compiler may inline them.
         -fno-semantic-interposition
+        # Programs that link the static libraries carry only what they use.
+        -ffunction-sections -fdata-sections
         # Optimising, GCC 12 takes one-character texts given to std::string for overlapping copies.
         $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
         $<$<BOOL:${ZORVANE_WARNINGS_AS_ERRORS}>:-Werror>)

@@ -32,6 +32,9 @@ function(zorvane_library name)
         "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR};${PROJECT_BINARY_DIR}/include>"
         "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/zorvane>")
     target_compile_features(${target} PUBLIC cxx_std_20)
+    if(NOT BUILD_SHARED_LIBS)
+        target_link_options(${target} INTERFACE "$<$<PLATFORM_ID:Linux>:LINKER:--gc-sections>")
+    endif()
     target_link_libraries(${target} PUBLIC ${LIB_USES} PRIVATE ${LIB_USES_PRIVATELY} $<BUILD_INTERFACE:zorvane_options>)
     set_target_properties(${target} PROPERTIES
         LINKER_LANGUAGE CXX
