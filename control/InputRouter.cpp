@@ -37,27 +37,26 @@ void InputRouter::Press(Integer button, Integer shift, Single x, Single y) {
 // The second press of a double click is a press like any other, which the double click follows.
 void InputRouter::DoubleClick(Integer button, Integer shift, Single x, Single y) {
     secondClick_ = true;
-    Down(button, shift, x, y);
-    if (button != kLeftButton) return;
-    if (held_ == Part::PlateArea) host_.Attempt([this] { plate_.AreaDoubleClicked(); });
-    if (held_ == Part::Panel) host_.Attempt([this] { plate_.PanelDoubleClicked(); });
+    if (!Down(button, shift, x, y) || button != kLeftButton) return;
+    const Part part = held_;
+    if (part == Part::PlateArea) host_.Attempt([this] { plate_.AreaDoubleClicked(); });
+    if (part == Part::Panel) host_.Attempt([this] { plate_.PanelDoubleClicked(); });
 }
 
-void InputRouter::Down(Integer button, Integer shift, Single x, Single y) {
+Boolean InputRouter::Down(Integer button, Integer shift, Single x, Single y) {
     // While a button is held, the part that it went down on gets the others too.
     if (held_ == Part::None) held_ = PartAt(x, y);
-    if (held_ == Part::Background) host_.Attempt([this] { plate_.BackgroundPressed(); });
-    if (held_ != Part::PlateArea) return;
+    if (held_ == Part::Background) return host_.Attempt([this] { plate_.BackgroundPressed(); });
+    if (held_ != Part::PlateArea) return true;
     const Spot at = InPlate(x, y);
-    if (host_.AnswerPress(button, shift, at)) {
-        held_ = Part::Host;
-    } else if (button != 0) {
-        host_.Attempt([&] { plate_.ButtonDown(button, shift, at.x, at.y); });
-    }
+    held_ = Part::Host;
+    if (host_.AnswerPress(button, shift, at)) return false;
+    held_ = Part::PlateArea;
+    return button == 0 || host_.Attempt([&] { plate_.ButtonDown(button, shift, at.x, at.y); });
 }
 
 void InputRouter::Move(Integer buttons, Integer shift, Single x, Single y) {
-    if (held_ != Part::None && buttons == 0) Up(kLeftButton, shift, x, y);
+    if (held_ != Part::None && buttons == 0 && !Up(kLeftButton, shift, x, y)) return;
     const Boolean over = held_ == Part::None && PartAt(x, y) == Part::PlateArea;
     if (held_ != Part::PlateArea && !over) return;
     const Spot at = InPlate(x, y);
@@ -67,19 +66,20 @@ void InputRouter::Move(Integer buttons, Integer shift, Single x, Single y) {
 void InputRouter::Release(Integer button, Integer buttons, Integer shift, Single x, Single y) {
     const Part part = held_;
     const Boolean clicked = button == kLeftButton && !secondClick_ && part == PartAt(x, y);
-    Up(button, shift, x, y);
+    if (!Up(button, shift, x, y)) return;
     if (buttons != 0) held_ = part;
     if (clicked && part == Part::PlateArea) host_.Attempt([this] { plate_.AreaClicked(); });
     if (clicked && part == Part::Panel) host_.Attempt([this] { plate_.PanelClicked(); });
 }
 
-void InputRouter::Up(Integer button, Integer shift, Single x, Single y) {
+Boolean InputRouter::Up(Integer button, Integer shift, Single x, Single y) {
     const Part part = held_;
     held_ = Part::None;
-    if (part != Part::PlateArea || button == 0) return;
+    if (part != Part::PlateArea || button == 0) return true;
     const Spot at = InPlate(x, y);
-    host_.Attempt([&] { plate_.ButtonUp(button, shift, at.x, at.y); });
+    if (!host_.Attempt([&] { plate_.ButtonUp(button, shift, at.x, at.y); })) return false;
     host_.GestureEnded();
+    return true;
 }
 
 Boolean InputRouter::KeyDown(Integer keyCode, Integer character, Integer shift) {

@@ -37,8 +37,9 @@ class ZORVANE_EXPORT InputRouter {
       public:
         virtual ~Host() = default;
 
-        /// Runs a call of the control and reports what it throws.
-        virtual void Attempt(const std::function<void()>& call) = 0;
+        /// Runs a call of the control and reports what it throws. Returns False when the call has
+        /// ended the host, and this router with it.
+        virtual Boolean Attempt(const std::function<void()>& call) = 0;
         /// A button went down on the plate area. A host that answers it itself returns True and
         /// has the pointer to itself until all buttons are up.
         virtual Boolean AnswerPress(Integer /*button*/, Integer /*shift*/, Spot /*at*/) {
@@ -75,8 +76,11 @@ class ZORVANE_EXPORT InputRouter {
     void KeyUp(Integer keyCode, Integer shift);
 
   private:
-    void Down(Integer button, Integer shift, Single x, Single y);
-    void Up(Integer button, Integer shift, Single x, Single y);
+    /// Returns False where the host has answered the press itself, or has ended in the course of
+    /// it.
+    Boolean Down(Integer button, Integer shift, Single x, Single y);
+    /// Returns False where the host has ended in the course of it.
+    Boolean Up(Integer button, Integer shift, Single x, Single y);
 
     Plate& plate_;
     Host& host_;

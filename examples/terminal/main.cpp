@@ -59,12 +59,13 @@ class Narrator final : public PlateObserver {
 /// Reports failures of the control instead of ending the program.
 class Input final : public InputRouter::Host {
   public:
-    void Attempt(const std::function<void()>& call) override {
+    Boolean Attempt(const std::function<void()>& call) override {
         try {
             call();
         } catch (const RuntimeError& error) {
             std::cout << "error " << error.Number() << ": " << error.Description() << '\n';
         }
+        return true; // no call ends this host
     }
 };
 

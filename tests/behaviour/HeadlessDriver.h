@@ -71,7 +71,10 @@ class HeadlessDriver final : public HostDriver, private InputRouter::Host {
         site_.answers = {answer};
         site_.questions.clear();
     }
-    void Attempt(const std::function<void()>& call) override { call(); }
+    Boolean Attempt(const std::function<void()>& call) override {
+        call();
+        return true;
+    }
     Single Left() const { return plate_.Elements().fraPlate.box.left; }
     Single Top() const { return plate_.Elements().fraPlate.box.top; }
 

@@ -10,7 +10,10 @@ class InputRouterTest : public ControlTest, public InputRouter::Host {
   protected:
     InputRouterTest() { Load(OneDrop()); }
 
-    void Attempt(const std::function<void()>& call) override { call(); }
+    Boolean Attempt(const std::function<void()>& call) override {
+        call();
+        return true;
+    }
     Boolean AnswerPress(Integer /*button*/, Integer shift, InputRouter::Spot /*at*/) override {
         return shift == kAltKey;
     }

@@ -11,6 +11,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -58,11 +59,13 @@ void PlateInput::DoubleClick(const QMouseEvent& event) {
 
 void PlateInput::Move(const QMouseEvent& event) {
     const auto [x, y] = SpotAt(event.position());
+    const QPointer<PlateWidget> shown(&widget_); // a slot may destroy it
     router_.Move(ButtonCodes(event.buttons()), ShiftCodes(event.modifiers()), x, y);
+    if (!shown) return;
     const bool overPlate = IsOverPlate(event.position());
     const bool heldOnPlate = router_.Held() == InputRouter::Part::PlateArea;
-    if (heldOnPlate || !InGesture()) HoverOver(WellAt(event.position()));
     ShowPointer(heldOnPlate || overPlate);
+    if (heldOnPlate || !InGesture()) HoverOver(WellAt(event.position()));
 }
 
 void PlateInput::Release(const QMouseEvent& event) {
@@ -87,13 +90,15 @@ void PlateInput::HoverOver(Integer wellNo) {
 void PlateInput::KeyPress(QKeyEvent& event) {
     painter_.ShowFocusRing(true);
     if (aids_.TakesKey(event)) return;
+    const QPointer<PlateWidget> shown(&widget_); // a slot may destroy it
     if (IsArrow(event.key())) ChooseSubWell();
+    if (!shown) return;
     const Integer shift = ShiftCodes(event.modifiers());
     const Integer from = plate_.CurrentWell();
     const bool isArrow = router_.KeyDown(KeyCode(event.key()), CharacterCode(event.text()), shift);
-    if (isArrow) aids_.Moved(from, shift);
-    ShowPointer(widget_.underMouse());
     event.setAccepted(isArrow);
+    if (shown && isArrow) aids_.Moved(from, shift);
+    if (shown) ShowPointer(shown->underMouse());
 }
 
 void PlateInput::ChooseSubWell() {
@@ -103,12 +108,13 @@ void PlateInput::ChooseSubWell() {
 }
 
 void PlateInput::KeyRelease(QKeyEvent& event) {
+    const QPointer<PlateWidget> shown(&widget_); // a slot may destroy it
     router_.KeyUp(KeyCode(event.key()), ShiftCodes(event.modifiers()));
-    ShowPointer(widget_.underMouse());
+    if (shown) ShowPointer(shown->underMouse());
     event.ignore();
 }
 
-void PlateInput::Attempt(const std::function<void()>& call) { steps_.Run(call); }
+Boolean PlateInput::Attempt(const std::function<void()>& call) { return steps_.Run(call); }
 
 Boolean PlateInput::AnswerPress(Integer button, Integer shift, InputRouter::Spot at) {
     if (aids_.TakesPress(button, shift, at)) return true;

@@ -38,7 +38,7 @@ class PlateInput final : private InputRouter::Host {
     void ShowToolTip(const QHelpEvent& event);
 
   private:
-    void Attempt(const std::function<void()>& call) override;
+    Boolean Attempt(const std::function<void()>& call) override;
     Boolean AnswerPress(Integer button, Integer shift, InputRouter::Spot at) override;
     void GestureEnded() override;
     Boolean PanelIsApart() const override;

@@ -19,8 +19,9 @@ class StepRunner {
     StepRunner(PlateWidget& widget, std::shared_ptr<HostedPlate> hosted)
         : widget_(widget), hosted_(std::move(hosted)) {}
 
+    /// Returns whether the widget is still there.
     template <class Step>
-    void Run(Step&& step) {
+    bool Run(Step&& step) {
         const auto hosted = hosted_;
         const QPointer<QObject> shown = AsObject();
         try {
@@ -28,6 +29,7 @@ class StepRunner {
         } catch (const std::exception& error) {
             if (shown) Report(error);
         }
+        return !shown.isNull();
     }
 
     /// Reports a failure that has been caught elsewhere.

@@ -1,5 +1,6 @@
 #include "Form.h"
 
+#include <QAction>
 #include <QDockWidget>
 #include <QGraphicsView>
 #include <QGroupBox>
@@ -169,6 +170,69 @@ TEST(Embedding, MessagesGoToTheHostThatAsksForThem) {
     PlateWidget::setMessageHandler({});
     EXPECT_EQ(messages,
               QStringList("Zorvane: Error trying to read \"missing\" from </no/such/library>"));
+}
+
+TEST(Embedding, ASlotMayDestroyTheWidgetInTheMiddleOfAGesture) {
+    const char* const signalNames[] = {
+        SIGNAL(mousePressed(int, int, float, float)),
+        SIGNAL(mouseReleased(int, int, float, float)),
+        SIGNAL(dragMoved(int, int, int, int)),
+        SIGNAL(clicked()),
+        SIGNAL(doubleClicked()),
+        SIGNAL(wellClicked(int)),
+        SIGNAL(wellDoubleClicked(int)),
+        SIGNAL(wellHovered(int)),
+        SIGNAL(wellSelected(int)),
+        SIGNAL(currentWellChanged(int)),
+        SIGNAL(selectionChanged()),
+        SIGNAL(selectionAided()),
+    };
+    for (const char* const signalName : signalNames) {
+        SCOPED_TRACE(signalName);
+        const TestProcess process;
+        const QPointer<PlateWidget> widget = new PlateWidget;
+        widget->setAid(PlateWidget::Aid::ShiftExtendsSelection);
+        widget->setPlateClassText(kPlateText);
+        widget->plate().MultipleSelect = true;
+        widget->setDragDrop(true);
+        widget->show();
+        const QPointF well = widget->wellRect(8).center();
+        const QPointF other = widget->wellRect(0).center();
+        struct Step {
+            QEvent::Type type;
+            QPointF at;
+            Qt::MouseButton button;
+            Qt::KeyboardModifiers keys;
+        };
+        auto* const ender = new QAction(widget);
+        QObject::connect(widget, signalName, ender, SLOT(trigger()));
+        QObject::connect(ender, &QAction::triggered, [&] { delete widget; });
+        for (const Step& step : {
+                 Step{QEvent::MouseMove, well, Qt::NoButton, {}},
+                 Step{QEvent::MouseButtonPress, well, Qt::LeftButton, {}},
+                 Step{QEvent::MouseMove, other, Qt::LeftButton, {}},
+                 Step{QEvent::MouseMove, well, Qt::LeftButton, {}},
+                 Step{QEvent::MouseButtonRelease, well, Qt::LeftButton, {}},
+                 Step{QEvent::MouseButtonDblClick, well, Qt::LeftButton, {}},
+                 Step{QEvent::MouseButtonRelease, well, Qt::LeftButton, {}},
+                 Step{QEvent::MouseButtonPress, well, Qt::LeftButton, {}},
+                 Step{QEvent::MouseMove, other, Qt::LeftButton, {}},
+                 Step{QEvent::MouseButtonRelease, other, Qt::LeftButton, {}},
+                 Step{QEvent::MouseButtonPress, other, Qt::RightButton, {}},
+                 Step{QEvent::MouseButtonRelease, other, Qt::RightButton, {}},
+                 Step{QEvent::MouseButtonPress, other, Qt::LeftButton, Qt::ShiftModifier},
+             }) {
+            if (!widget) break;
+            const bool moves = step.type == QEvent::MouseMove;
+            const bool up = step.type == QEvent::MouseButtonRelease;
+            QMouseEvent event(step.type, step.at, widget->mapToGlobal(step.at),
+                              moves ? Qt::NoButton : step.button, up ? Qt::NoButton : step.button,
+                              step.keys);
+            QApplication::sendEvent(widget, &event);
+        }
+        EXPECT_EQ(widget, nullptr);
+        delete widget;
+    }
 }
 
 } // namespace
