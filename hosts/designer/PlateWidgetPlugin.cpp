@@ -1,13 +1,16 @@
 #include "hosts/designer/PlateWidgetPlugin.h"
 
 #include "hosts/designer/PlateTaskMenu.h"
+#include "hosts/designer/StoredSettings.h"
 #include "hosts/qt/PlateWidget.h"
 
 #include <QDesignerFormEditorInterface>
+#include <QDesignerFormWindowManagerInterface>
 #include <QExtensionManager>
 #include <QIcon>
 #include <QPainter>
 #include <QPixmap>
+#include <QSignalBlocker>
 
 namespace zorvane {
 
@@ -64,9 +67,17 @@ QString PlateWidgetPlugin::domXml() const {
 QWidget* PlateWidgetPlugin::createWidget(QWidget* parent) {
     auto* const plate = new PlateWidget(parent);
     if (inDesigner_) {
-        // A form opens without questions on a machine that does not have the plate's library.
+        // A form opens without questions on a machine that does not have the plate's library, and
+        // keeps the plate's name.
+        connect(plate, &PlateWidget::plateChanged, plate, [plate] { plate->setToolTip({}); });
         connect(plate, &PlateWidget::failed, plate,
-                [plate](int, const QString&, const QString& why) { plate->setToolTip(why); });
+                [plate](int, const QString&, const QString& why) {
+                    if (plate->plateName().isEmpty()) {
+                        const QSignalBlocker silent(plate);
+                        plate->setPlateClassText("PLATE " + plate->requestedPlateName() + '\n');
+                    }
+                    plate->setToolTip(why);
+                });
     }
     return plate;
 }
@@ -80,6 +91,10 @@ void PlateWidgetPlugin::initialize(QDesignerFormEditorInterface* editor) {
     if (QExtensionManager* const manager = editor->extensionManager()) {
         manager->registerExtensions(new PlateTaskMenuFactory(manager),
                                     Q_TYPEID(QDesignerTaskMenuExtension));
+    }
+    if (QDesignerFormWindowManagerInterface* const forms = editor->formWindowManager()) {
+        connect(forms, &QDesignerFormWindowManagerInterface::formWindowAdded, forms,
+                &StoreOnlyWhatDiffers);
     }
 }
 

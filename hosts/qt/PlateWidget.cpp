@@ -43,6 +43,7 @@ bool PlateWidget::ReportsFailures() const {
 
 bool PlateWidget::load(const QString& plateName, const QString& library, QString* why) {
     const auto hosted = d_->hosted; // a slot may destroy the widget
+    d_->requestedPlateName = plateName;
     return d_->Load(
         [&] { return hosted->plate.SetPlate(plateName.toStdString(), library.toStdString()); },
         why);

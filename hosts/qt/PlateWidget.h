@@ -242,6 +242,8 @@ class ZORVANE_EXPORT PlateWidget : public QWidget {
     /// not emitted.
     Q_INVOKABLE bool load(const QString& plateName, const QString& library = {},
                           QString* why = nullptr);
+    /// The name with which a plate was asked for last, also where it could not be loaded.
+    QString requestedPlateName() const;
     QString fileName() const;
     /// The plate library from which plates are loaded; a name alone loads nothing.
     void setFileName(const QString& name);

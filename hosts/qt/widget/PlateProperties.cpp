@@ -25,6 +25,8 @@ QString PlateWidget::plateName() const { return d_->GetText(&Plate::PlateName); 
 
 void PlateWidget::setPlateName(const QString& name) { load(name); }
 
+QString PlateWidget::requestedPlateName() const { return d_->requestedPlateName; }
+
 void PlateWidget::resetPlateName() {
     if (QFileInfo::exists(fileName())) setPlateName(ShownText(saved::kPlateName.fallback));
 }

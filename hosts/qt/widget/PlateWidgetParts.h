@@ -71,6 +71,7 @@ struct PlateWidget::Parts {
 
     PlateWidget& widget;
     String firstFileName; ///< the library of a new control
+    QString requestedPlateName;
     std::shared_ptr<HostedPlate> hosted;
     Plate& plate;
     StepRunner steps;
