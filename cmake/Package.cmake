@@ -95,6 +95,7 @@ zorvane_library(Core
         drawing/SvgCanvas.h
         model/CompoundWell.h
         model/Coordinate.h
+        model/DropCentre.h
         model/WellDetails.h
         model/WellStyle.h
         model/WellValues.h
