@@ -12,6 +12,7 @@ packages=(
 )
 if [ "${1:-}" = --check ]; then
     packages+=(clang clang-format clang-tidy git libbenchmark-dev libpugixml-dev
+              nlohmann-json3-dev libtomlplusplus-dev
               qt6-tools-dev qt6-l10n-tools libqt6opengl6-dev debhelper pkg-config doxygen)
 fi
 

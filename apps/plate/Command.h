@@ -23,5 +23,7 @@ Command MakeCheckCommand(CLI::App& app);
 Command MakeEditCommand(CLI::App& app);
 Command MakePairsCommand(CLI::App& app);
 Command MakeRegistryCommand(CLI::App& app);
+Command MakeImportCommand(CLI::App& app);
+Command MakeExportCommand(CLI::App& app);
 
 } // namespace zorvane

@@ -23,10 +23,11 @@ int Main(int argc, char** argv) {
     app.set_version_flag("--version", "plate " PLATE_VERSION);
     app.require_subcommand(1);
     app.footer("\"plate COMMAND --help\" says more about a command.");
-    const std::vector<Command> commands{MakeListCommand(app),  MakeTextCommand(app),
-                                        MakeDrawCommand(app),  MakeWellsCommand(app),
-                                        MakeCheckCommand(app), MakeEditCommand(app),
-                                        MakePairsCommand(app), MakeRegistryCommand(app)};
+    const std::vector<Command> commands{MakeListCommand(app),   MakeTextCommand(app),
+                                        MakeDrawCommand(app),   MakeWellsCommand(app),
+                                        MakeCheckCommand(app),  MakeEditCommand(app),
+                                        MakePairsCommand(app),  MakeRegistryCommand(app),
+                                        MakeImportCommand(app), MakeExportCommand(app)};
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
