@@ -2,6 +2,8 @@
 
 #include "library/FileLayer.h"
 
+#include <map>
+
 namespace zorvane {
 
 /// The file system of the machine.
@@ -13,9 +15,12 @@ class DiskFiles final : public FileLayer {
     String Read(const String& path) override;
     std::unique_ptr<Output> CreateBeside(const String& path) override;
     void Rename(const String& from, const String& to) override;
-    void Remove(const String& path) override;
-    std::shared_ptr<void> LockFolder(const String& path) override;
+    void RenameToNew(const String& from, const String& to) override;
+    std::shared_ptr<void> Lock(const String& path) override;
     void SyncFolder(const String& path) override;
+
+  private:
+    std::map<String, std::weak_ptr<void>> locks_; ///< those that are held, by path
 };
 
 } // namespace zorvane

@@ -97,6 +97,17 @@ PlateBlock LibraryText::Get(const String& name) const {
     return *std::move(block);
 }
 
+cmPlate LibraryText::LookedUp(const String& name) const {
+    TextFile file;
+    file.OpenText(bytes_);
+    cmPlate plate;
+    Integer result = name.empty() ? kPlateRead : kOtherPlateRead;
+    while (result == kOtherPlateRead && !file.AtEnd())
+        result = plate.ReadNextPlate(file, name);
+    if (result != kPlateRead || name.empty()) Fail(WhyNotFound(name));
+    return plate;
+}
+
 cmPlate LibraryText::PlateOf(const PlateBlock& block) const {
     return PlateIn(bytes_.substr(block.begin));
 }

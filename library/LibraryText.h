@@ -40,6 +40,9 @@ class LibraryText {
     std::optional<PlateBlock> Find(const String& name) const;
     /// Find, or the failure that says why there is no such plate.
     PlateBlock Get(const String& name) const;
+    /// The plate that a look-up of the name gives programs: what its lines leave out, it keeps from
+    /// the plates before it. Fails like Get.
+    cmPlate LookedUp(const String& name) const;
     /// The plate of a block, with all comments that the reader takes for its own.
     cmPlate PlateOf(const PlateBlock& block) const;
     /// The bytes of a block.

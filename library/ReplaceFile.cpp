@@ -6,65 +6,36 @@ namespace zorvane {
 
 namespace {
 
-/// A file with a new name that goes away with this object unless it was moved to its place.
-class Temporary {
-  public:
-    Temporary(FileLayer& files, const String& target)
-        : files_(files), output_(files.CreateBeside(target)) {}
-    ~Temporary() {
-        if (moved_) return;
-        const String path = output_->Path();
-        output_.reset();
-        try {
-            files_.Remove(path);
-        } catch (const RuntimeError&) { // What made the save fail is the better thing to tell.
-        }
-    }
-    Temporary(const Temporary&) = delete;
-    Temporary& operator=(const Temporary&) = delete;
-
-    void Fill(std::string_view bytes) {
-        output_->Write(bytes);
-        output_->Flush();
-        output_->Close();
-    }
-
-    void MoveTo(const String& path) {
-        files_.Rename(output_->Path(), path);
-        moved_ = true;
-    }
-
-  private:
-    FileLayer& files_;
-    std::unique_ptr<FileLayer::Output> output_;
-    bool moved_ = false;
-};
+enum class Target { Any, Expected, None };
 
 class Replacement {
   public:
     Replacement(FileLayer& files, const String& path) : files_(files), path_(path) {}
 
-    void Run(std::string_view bytes, std::optional<std::string_view> expected) {
-        step_ = expected ? "looking for it" : "looking for its folder";
-        const String target = files_.Resolved(path_);
-        const bool exists = files_.Exists(target);
-        if (expected && !exists) Raise(ErrorNumber::FileNotFound, "it is not there");
-        step_ = "writing to it";
-        if (exists) {
-            outcome_ = kUnchanged;
-            files_.CheckWritable(target);
-        }
+    /// Finds the file, which may be saved then, and keeps others from saving it meanwhile.
+    std::shared_ptr<void> Lock(Target allowed) {
+        step_ = allowed == Target::Expected ? "looking for it" : "looking for its folder";
+        target_ = files_.Resolved(path_);
+        CheckTarget(allowed);
+        step_ = "waiting for other programs";
+        auto lock = files_.Lock(target_);
+        CheckTarget(allowed); // Whoever had the lock may have made it.
+        return lock;
+    }
+
+    void Run(std::string_view bytes, Target allowed, std::string_view expected) {
+        const auto lock = Lock(allowed);
         step_ = "writing a temporary file next to it";
-        Temporary fresh(files_, target);
-        fresh.Fill(bytes);
-        if (expected) {
-            ReplaceExpected(target, *expected, fresh);
+        const auto fresh = Written(bytes);
+        if (allowed == Target::Expected) {
+            ReplaceExpected(expected, *fresh);
         } else {
             step_ = "putting the new content in its place";
-            fresh.MoveTo(target);
+            exists_ ? files_.Rename(fresh->Path(), target_)
+                    : files_.RenameToNew(fresh->Path(), target_);
             step_ = "flushing the folder";
             outcome_ = " The new content is in the file.";
-            files_.SyncFolder(target);
+            files_.SyncFolder(target_);
         }
     }
 
@@ -78,32 +49,47 @@ class Replacement {
     }
 
   private:
-    void ReplaceExpected(const String& target, std::string_view expected, Temporary& fresh) {
-        step_ = "writing a backup of it";
-        Temporary backup(files_, target);
-        backup.Fill(expected);
-        // As late as possible, and not while another save does the same.
-        step_ = "waiting for other programs";
-        const auto lock = files_.LockFolder(target);
-        step_ = "reading it again";
-        if (files_.Read(target) != expected)
-            Raise(ErrorNumber::ChangedOnDisk, "another program has changed it since it was read");
-        step_ = "keeping the backup";
-        backup.MoveTo(BackupOf(target));
-        step_ = "putting the new content in its place";
-        fresh.MoveTo(target);
-        Settle(target);
+    void CheckTarget(Target allowed) {
+        exists_ = files_.Exists(target_);
+        if (allowed == Target::Expected && !exists_)
+            Raise(ErrorNumber::FileNotFound, "it is not there");
+        if (allowed == Target::None && exists_)
+            Raise(ErrorNumber::ChangedOnDisk, "another program has made it meanwhile");
+        step_ = "writing to it";
+        if (!exists_) return;
+        outcome_ = kUnchanged;
+        files_.CheckWritable(target_);
     }
 
-    /// Names in a folder may still be lost until the folder is flushed. Where that fails, the
-    /// backup takes its place again.
-    void Settle(const String& target) {
-        step_ = "flushing the folder";
+    std::unique_ptr<FileLayer::Output> Written(std::string_view bytes) {
+        auto file = files_.CreateBeside(target_);
+        file->Write(bytes);
+        file->Flush();
+        file->Close();
+        return file;
+    }
+
+    void ReplaceExpected(std::string_view expected, const FileLayer::Output& fresh) {
+        step_ = "writing a backup of it";
+        const auto backup = Written(expected);
+        // As late as possible: not every program asks for the lock.
+        step_ = "reading it again";
+        if (files_.Read(target_) != expected)
+            Raise(ErrorNumber::ChangedOnDisk, "another program has changed it since it was read");
+        step_ = "putting the new content in its place";
+        files_.Rename(fresh.Path(), target_);
+        String former = backup->Path();
         try {
-            files_.SyncFolder(target);
+            step_ = "keeping the backup";
+            outcome_ = " The new content is in the file.";
+            files_.Rename(former, BackupOf(target_));
+            former = BackupOf(target_);
+            // Names in a folder may still be lost until the folder is flushed.
+            step_ = "flushing the folder";
+            outcome_ = " The new content is in the file, the former in " + former + ".";
+            files_.SyncFolder(target_);
         } catch (const RuntimeError&) {
-            outcome_ = " The new content is in the file, the former in " + BackupOf(target) + ".";
-            files_.Rename(BackupOf(target), target);
+            files_.Rename(former, target_);
             outcome_ = kUnchanged;
             throw;
         }
@@ -113,22 +99,43 @@ class Replacement {
 
     FileLayer& files_;
     String path_;
+    String target_; ///< where the path leads
+    bool exists_ = false;
     String step_;
     String outcome_; ///< what the failure leaves behind
 };
+
+void Replace(FileLayer& files, const String& path, std::string_view bytes, Target allowed,
+             std::string_view expected = {}) {
+    Replacement replacement(files, path);
+    try {
+        replacement.Run(bytes, allowed, expected);
+    } catch (const RuntimeError& error) {
+        replacement.Fail(error);
+    }
+}
 
 } // namespace
 
 String BackupOf(const String& path) { return path + "~"; }
 
-void ReplaceFile(FileLayer& files, const String& path, std::string_view bytes,
-                 std::optional<std::string_view> expected) {
+std::shared_ptr<void> LockForSaving(FileLayer& files, const String& path) {
     Replacement replacement(files, path);
     try {
-        replacement.Run(bytes, expected);
+        return replacement.Lock(Target::Any);
     } catch (const RuntimeError& error) {
         replacement.Fail(error);
     }
+}
+
+void ReplaceFile(FileLayer& files, const String& path, std::string_view bytes,
+                 std::optional<std::string_view> expected) {
+    Replace(files, path, bytes, expected ? Target::Expected : Target::Any,
+            expected.value_or(std::string_view()));
+}
+
+void CreateFile(FileLayer& files, const String& path, std::string_view bytes) {
+    Replace(files, path, bytes, Target::None);
 }
 
 } // namespace zorvane

@@ -8,7 +8,7 @@
 namespace zorvane {
 
 /// The machine's files on a disk that is full from one step on, counted from 0. A write that fails
-/// has written half of its bytes. Temporary files can still be removed.
+/// has written half of its bytes.
 class FailingFiles final : public FileLayer {
   public:
     explicit FailingFiles(int failing = -1) : failing_(failing) {}
@@ -27,10 +27,10 @@ class FailingFiles final : public FileLayer {
         return std::make_unique<FailingOutput>(*this, Step().CreateBeside(path));
     }
     void Rename(const String& from, const String& to) override { Step().Rename(from, to); }
-    void Remove(const String& path) override { disk_.Remove(path); }
-    std::shared_ptr<void> LockFolder(const String& path) override {
-        return Step().LockFolder(path);
+    void RenameToNew(const String& from, const String& to) override {
+        Step().RenameToNew(from, to);
     }
+    std::shared_ptr<void> Lock(const String& path) override { return Step().Lock(path); }
     void SyncFolder(const String& path) override { Step().SyncFolder(path); }
 
   private:

@@ -15,6 +15,13 @@ namespace fs = std::filesystem;
 using Names = std::set<String>;
 using Expected = std::optional<std::string_view>;
 
+String AttributeOf(const String& file, const char* name) {
+    String value(100, '\0');
+    const ssize_t size = ::getxattr(file.c_str(), name, value.data(), value.size());
+    value.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
+    return value;
+}
+
 TEST(ReplaceFile, KeepsABackupAndThePermissionsAndFollowsLinks) {
     const TempFolder folder;
     DiskFiles files;
@@ -49,9 +56,29 @@ TEST(ReplaceFile, KeepsAnAccessList) {
         GTEST_SKIP() << "this file system has no access lists";
     DiskFiles files;
     ReplaceFile(files, folder.File("a.dat"), "new");
-    String now(100, '\0');
-    now.resize(::getxattr(folder.File("a.dat").c_str(), name, now.data(), now.size()));
-    EXPECT_EQ(now, list);
+    EXPECT_EQ(AttributeOf(folder.File("a.dat"), name), list);
+}
+
+TEST(ReplaceFile, KeepsAttributesOfTheUser) {
+    const TempFolder folder;
+    folder.Put("a.dat", "old");
+    const char* const name = "user.origin";
+    if (::setxattr(folder.File("a.dat").c_str(), name, "lab", 3, 0) != 0)
+        GTEST_SKIP() << "this file system has no attributes";
+    DiskFiles files;
+    ReplaceFile(files, folder.File("a.dat"), "new", "old");
+    for (const char* const file : {"a.dat", "a.dat~"})
+        EXPECT_EQ(AttributeOf(folder.File(file), name), "lab");
+}
+
+TEST(ReplaceFile, CreatesNoFileThatIsThere) {
+    const TempFolder folder;
+    DiskFiles files;
+    CreateFile(files, folder.File("a.dat"), "first");
+    const auto again = [&] { CreateFile(files, folder.File("a.dat"), "second"); };
+    EXPECT_EQ(NumberRaisedBy(again), static_cast<Long>(ErrorNumber::ChangedOnDisk));
+    EXPECT_THROW(files.RenameToNew(folder.File("b.dat"), folder.File("a.dat")), RuntimeError);
+    EXPECT_EQ(folder.Bytes("a.dat"), "first");
 }
 
 TEST(ReplaceFile, LeavesTheFileAsItWasWhicheverStepFails) {
