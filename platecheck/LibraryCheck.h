@@ -28,6 +28,9 @@ struct Finding {
 /// reading a file.
 std::vector<Finding> CheckLibrary(const String& fileName);
 
+/// The same for the text of a library, which findings give that name.
+std::vector<Finding> CheckLibraryText(const String& text, const String& name);
+
 /// "file:line: error: message" and below it the line and a caret, each ended by a line feed.
 String FindingText(const Finding& finding);
 

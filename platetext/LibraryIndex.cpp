@@ -1,10 +1,13 @@
 #include "platetext/LibraryIndex.h"
 
 #include "model/cmPlate.h"
+#include "runtime/FileName.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Text.h"
 #include "runtime/TextFile.h"
 #include "runtime/TextFunctions.h"
 
+#include <filesystem>
 #include <string_view>
 #include <unordered_set>
 #include <utility>
@@ -16,7 +19,8 @@ namespace {
 /// Follows the reading of a library line by line, to tell the numbers of lines.
 class LineFollower {
   public:
-    explicit LineFollower(const String& fileName) { file_.OpenInput(fileName); }
+    /// Takes the library, opened a second time.
+    explicit LineFollower(TextFile file) : file_(std::move(file)) {}
 
     Long LinesRead() const { return lines_; }
 
@@ -43,16 +47,13 @@ LibraryEntry EntryOf(const cmPlate& plate, Long line) {
             plate.TagListText(), false};
 }
 
-} // namespace
-
-LibraryListing ListLibrary(const String& fileName) {
+LibraryListing List(TextFile file, TextFile again) {
     LibraryListing listing;
     std::unordered_set<String> names;
-    LineFollower follower(fileName);
-    TextFile file;
-    file.OpenInput(fileName);
+    LineFollower follower(std::move(again));
+    cmPlate plate;
     while (listing.code == kPlateRead && !file.AtEnd()) {
-        cmPlate plate;
+        plate.Properties.Clear();
         listing.code = plate.ReadNextPlate(file);
         const Long plateLine = follower.FollowTo(file.Position());
         if (plateLine != 0) {
@@ -70,6 +71,28 @@ LibraryListing ListLibrary(const String& fileName) {
         listing.stoppedAtLine = follower.LinesRead() + (lineRead ? 0 : 1);
     }
     return listing;
+}
+
+} // namespace
+
+LibraryListing ListLibrary(const String& fileName) {
+    TextFile file;
+    TextFile again;
+    file.OpenInput(fileName);
+    std::error_code ignored;
+    // What a pipe gives to one reader, the other does not get.
+    if (!std::filesystem::is_regular_file(PathOf(fileName), ignored))
+        Raise(ErrorNumber::PathFileAccess);
+    again.OpenInput(fileName);
+    return List(std::move(file), std::move(again));
+}
+
+LibraryListing ListLibraryText(const String& text) {
+    TextFile file;
+    TextFile again;
+    file.OpenText(text);
+    again.OpenText(text);
+    return List(std::move(file), std::move(again));
 }
 
 } // namespace zorvane

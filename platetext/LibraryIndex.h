@@ -8,7 +8,8 @@
 
 namespace zorvane {
 
-/// One plate definition of a library, as it is when read into a new object.
+/// One plate definition of a library, as a look-up gives it: what its lines leave out, it keeps
+/// from the plates before it.
 struct LibraryEntry {
     String name;
     Long line = 0; ///< the number of its PLATE line, from 1
@@ -29,7 +30,10 @@ struct LibraryListing {
 };
 
 /// Reads a library by the rules of the look-up. Errors of TextFile::OpenInput when the file cannot
-/// be opened.
+/// be opened, and 75 for what is no ordinary file.
 ZORVANE_EXPORT LibraryListing ListLibrary(const String& fileName);
+
+/// The same for the text of a library.
+ZORVANE_EXPORT LibraryListing ListLibraryText(const String& text);
 
 } // namespace zorvane

@@ -7,6 +7,7 @@
 #include "support/XMLBuffer.h"
 
 #include <initializer_list>
+#include <optional>
 #include <string_view>
 
 namespace zorvane {
@@ -62,6 +63,11 @@ class ZORVANE_EXPORT XMLFile {
     void WriteXMLFloatValue(std::string_view memberName, std::string_view memberValue,
                             std::string_view formatString = {}, Boolean suppressZero = false);
 
+    /// Reads this text in place of the file, whose name is then only for errors.
+    void ReadFrom(String text);
+    /// Adds what is written to this text in place of the file. The text must outlive that.
+    void WriteTo(String& text) { writtenTo_ = &text; }
+
     /// Finishes the file. Sections that are open stay so, for a file that is then begun. Error 1053
     /// when the last of it cannot be written; it is closed all the same.
     void CloseXMLFile();
@@ -83,6 +89,7 @@ class ZORVANE_EXPORT XMLFile {
   private:
     void WriteLine(std::initializer_list<std::string_view> parts);
     void WriteIndented(std::initializer_list<std::string_view> parts);
+    void Emit(std::string_view line);
     [[noreturn]] void RaiseNotWritten() const;
 
     std::string_view ReadBuffer();
@@ -105,6 +112,8 @@ class ZORVANE_EXPORT XMLFile {
     String written_; ///< the line being written
     TextFile input_;
     TextFile output_;
+    std::optional<String> readFrom_;
+    String* writtenTo_ = nullptr;
     Boolean openForReading_ = false;
     Boolean openForWriting_ = false;
     String fileName_;

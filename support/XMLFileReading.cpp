@@ -2,6 +2,8 @@
 #include "runtime/Text.h"
 #include "support/XMLFile.h"
 
+#include <utility>
+
 namespace zorvane {
 
 namespace {
@@ -134,10 +136,12 @@ std::string_view XMLFile::ReadBuffer() {
     return buffer_.Rest();
 }
 
+void XMLFile::ReadFrom(String text) { readFrom_ = std::move(text); }
+
 void XMLFile::OpenForReading() {
     openForReading_ = true;
     try {
-        input_.OpenInput(fileName_);
+        readFrom_ ? input_.OpenText(*readFrom_) : input_.OpenInput(fileName_);
         ReadHeaderLine();
     } catch (const RuntimeError&) {
         input_.Close();

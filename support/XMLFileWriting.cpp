@@ -7,8 +7,6 @@
 
 namespace zorvane {
 
-namespace {} // namespace
-
 void XMLFile::OpenXMLSection(std::string_view section, std::string_view tag) {
     sections_.At(depth_) = section;
     WriteLine({"<", section, tag.empty() ? "" : " ", tag, ">"});
@@ -64,9 +62,9 @@ void XMLFile::WriteXMLFloatValue(std::string_view memberName, std::string_view m
 void XMLFile::WriteLine(std::initializer_list<std::string_view> parts) {
     try {
         if (!openForWriting_) {
-            output_.OpenOutput(fileName_);
+            if (!writtenTo_) output_.OpenOutput(fileName_);
             openForWriting_ = true;
-            output_.WriteLine(R"(<?xml version="1.0"?>)");
+            Emit(R"(<?xml version="1.0"?>)");
         }
         WriteIndented(parts);
     } catch (const RuntimeError&) {
@@ -80,7 +78,12 @@ void XMLFile::WriteIndented(std::initializer_list<std::string_view> parts) {
     written_.assign(static_cast<std::size_t>(std::max<Integer>(depth_, 0)), ' ');
     for (const std::string_view part : parts)
         written_ += part;
-    output_.WriteLine(written_);
+    Emit(written_);
+}
+
+void XMLFile::Emit(std::string_view line) {
+    if (!writtenTo_) return output_.WriteLine(line);
+    writtenTo_->append(line).append("\r\n");
 }
 
 void XMLFile::RaiseNotWritten() const {

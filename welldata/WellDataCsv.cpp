@@ -35,6 +35,7 @@ class RowParser {
         row.wellNo = ParseWell();
         if (columns_.Has(Defined)) row.defined = ParseDefined();
         if (columns_.Has(Volume)) row.volume = ParseVolume();
+        row.hasVolume = row.volume && !Trimmed(Volume).empty();
         if (columns_.Has(Text)) row.text = Field(Text);
         if (columns_.Has(Error)) row.errorCode = ParseErrorCode();
         if (columns_.Has(Annotation)) row.annotation = Field(Annotation);

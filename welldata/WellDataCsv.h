@@ -18,6 +18,7 @@ struct WellDataRow {
     Integer wellNo = 0;
     std::optional<Boolean> defined;
     std::optional<Single> volume;
+    Boolean hasVolume = false; ///< the volume is given and not left empty, which counts as 0
     std::optional<String> text;
     std::optional<Integer> errorCode;
     std::optional<String> annotation;
