@@ -14,7 +14,7 @@ namespace {
 
 /// The findings of one library on standard output; whether none of them is an error.
 bool Check(const String& library) {
-    const std::vector<Finding> findings = WithFile(library, [&] { return CheckLibrary(library); });
+    const std::vector<Finding> findings = CheckLibraryText(ReadFile(library), library);
     String report;
     for (const Finding& finding : findings)
         report += FindingText(finding);

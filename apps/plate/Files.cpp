@@ -2,17 +2,16 @@
 
 #include "library/DiskFiles.h"
 #include "library/ReplaceFile.h"
+#include "runtime/Text.h"
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 
 namespace zorvane {
 
 namespace {
-
-bool IsStandard(const String& file) { return file.empty() || file == "-"; }
 
 bool IsDevice(const String& file) {
     std::error_code ignored;
@@ -21,17 +20,44 @@ bool IsDevice(const String& file) {
 
 void Write(std::ostream& out, std::string_view bytes, const String& name) {
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush();
-    if (!out) Fail(name + ": cannot be written");
+    if (!out) Fail(name + " cannot be written");
+}
+
+/// Everything up to the end of a stream that may have none.
+String ReadStream(std::istream& in) {
+    String bytes;
+    std::array<char, 65536> block = {};
+    do {
+        in.read(block.data(), block.size());
+        bytes.append(block.data(), static_cast<std::size_t>(in.gcount()));
+        if (bytes.size() > kMostBytesRead) Fail("it is larger than 256 MB");
+    } while (in);
+    if (in.bad()) Fail("the device failed");
+    return bytes;
+}
+
+String ReadAny(const String& file) {
+    if (IsStandard(file)) return ReadStream(std::cin);
+    if (!IsDevice(file)) return DiskFiles().Read(file);
+    std::ifstream device(file, std::ios::binary);
+    if (!device) Fail("there is no permission");
+    return ReadStream(device);
 }
 
 } // namespace
 
 void Fail(const String& description) { Raise(ErrorNumber::CommandFailed, description, "plate"); }
 
+bool IsStandard(const String& file) { return file == "-"; }
+
+String ShownName(const String& file) { return IsStandard(file) ? "standard input" : file; }
+
 void Print(std::string_view text) { Write(std::cout, text, "standard output"); }
 
+void Warn(const String& text) { std::cerr << "plate: warning: " << PrintableUtf8(text) << "\n"; }
+
 void WriteFile(const String& file, std::string_view bytes) {
-    if (IsStandard(file)) return Print(bytes);
+    if (file.empty() || IsStandard(file)) return Print(bytes);
     if (IsDevice(file)) {
         std::ofstream device(file, std::ios::binary);
         return Write(device, bytes, file);
@@ -41,12 +67,18 @@ void WriteFile(const String& file, std::string_view bytes) {
 }
 
 String ReadFile(const String& file) {
-    if (IsStandard(file)) return {std::istreambuf_iterator<char>(std::cin), {}};
     try {
-        return DiskFiles().Read(file);
-    } catch (const RuntimeError&) {
-        Fail(file + ": cannot be read");
+        return ReadAny(file);
+    } catch (const RuntimeError& error) {
+        Fail(ShownName(file) + " cannot be read: " + error.Description());
     }
+}
+
+LibraryText ReadLibrary(const String& file) { return LibraryText(ReadFile(file)); }
+
+cmPlate ReadPlate(const String& file, const String& name) {
+    const LibraryText library = ReadLibrary(file);
+    return WithFile(file, [&] { return library.LookedUp(name); });
 }
 
 } // namespace zorvane

@@ -28,11 +28,10 @@ Table TableOf(const LibraryListing& listing) {
 }
 
 ExitCode Run(const Options& options) {
-    const LibraryListing listing =
-        WithFile(options.plateLibrary, [&] { return ListLibrary(options.plateLibrary); });
+    const LibraryListing listing = ListLibraryText(ReadFile(options.plateLibrary));
     Print(TableText(TableOf(listing), options.form));
     if (listing.code == 0) return kDone;
-    std::cerr << "plate: " << PrintableUtf8(options.plateLibrary)
+    std::cerr << "plate: " << PrintableUtf8(ShownName(options.plateLibrary))
               << ": the search for a plate ends at line " << listing.stoppedAtLine
               << "; \"plate check\" says why\n";
     return kFailed;

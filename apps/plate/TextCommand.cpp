@@ -1,6 +1,5 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
-#include "model/cmPlate.h"
 
 #include <memory>
 
@@ -14,24 +13,12 @@ struct Options {
     bool fields = false;
 };
 
-/// The plate as its own lines give it: each plate is read into a new object, so that nothing of the
-/// plates before it shows.
-std::unique_ptr<cmPlate> ReadAlone(const String& library, const String& name) {
-    TextFile file;
-    file.OpenInput(library);
-    for (;;) {
-        constexpr Integer otherPlate = 1;
-        auto plate = std::make_unique<cmPlate>();
-        const Integer result = plate->ReadNextPlate(file, name);
-        if (result == 0) return plate;
-        if (result != otherPlate || file.AtEnd()) Fail("no plate <" + name + "> can be found");
-    }
-}
-
 ExitCode Run(const Options& options) {
-    const auto plate = WithFile(options.plateLibrary,
-                                [&] { return ReadAlone(options.plateLibrary, options.plate); });
-    Print(options.fields ? plate->AsText() : plate->Text());
+    const LibraryText library = ReadLibrary(options.plateLibrary);
+    Print(WithFile(options.plateLibrary, [&] {
+        return options.fields ? library.LookedUp(options.plate).AsText()
+                              : library.Get(options.plate).definition;
+    }));
     return kDone;
 }
 
@@ -45,10 +32,14 @@ Command MakeTextCommand(CLI::App& app) {
         ->required();
     parser->add_flag("--fields", options->fields,
                      "Write every value in a fixed order instead of the lines as they were read");
-    parser->footer("The text has CR LF line ends, as library files are written.\n"
-                   "Examples:\n"
-                   "  plate text Plates.Dat Batch_96\n"
-                   "  plate text Plates.Dat Batch_96 --fields >> Other.Dat");
+    parser->footer(
+        "The text has CR LF line ends, as library files are written. The lines are those "
+        "of the\n"
+        "plate itself; the values of --fields also have what it keeps from plates before "
+        "it.\n"
+        "Examples:\n"
+        "  plate text Plates.Dat Batch_96\n"
+        "  plate text Plates.Dat Batch_96 --fields > Batch_96.Dat");
     return {parser, [options] { return Run(*options); }};
 }
 

@@ -79,8 +79,7 @@ Table CalibratedTable(const cmPlate& plate, const Options& options) {
 }
 
 ExitCode Run(const Options& options) {
-    cmPlate plate;
-    if (!plate.SetPlate(options.plateLibrary, options.plate)) return kFailed;
+    const cmPlate plate = ReadPlate(options.plateLibrary, options.plate);
     if (Long{plate.Rows()} * plate.Cols() > std::numeric_limits<Integer>::max())
         Fail(options.plate + ": a plate cannot have more than 32767 wells");
     const Table table = options.calibration.empty()

@@ -1,4 +1,5 @@
 #include "apps/plate/Command.h"
+#include "apps/plate/Interruption.h"
 #include "apps/plate/ToolProcess.h"
 #include "runtime/RuntimeError.h"
 
@@ -40,6 +41,7 @@ int Main(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    RemoveTemporariesOnSignals();
     ToolProcess process;
     const InstalledProcess installed(process);
     try {

@@ -1,5 +1,6 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
+#include "apps/plate/draw/LibraryFile.h"
 #include "apps/plate/draw/ShownWellData.h"
 #include "control/WellNames.h"
 #include "drawing/PlatePicture.h"
@@ -59,13 +60,15 @@ class Drawing {
   public:
     explicit Drawing(const Options& options) : options_(options) {}
 
-    /// False when the plate cannot be found, which has then been said.
-    bool Load() {
+    void Load() {
+        const LibraryText library = ReadLibrary(options_.plateLibrary);
+        WithFile(options_.plateLibrary, [&] { library.Get(options_.plate); });
+        const LibraryFile file(options_.plateLibrary, library.Bytes());
         Plate& plate = picture_.Control();
-        if (!plate.SetPlate(options_.plate, options_.plateLibrary)) return false;
+        if (!plate.SetPlate(options_.plate, file.Path()))
+            Fail(ShownName(options_.plateLibrary) + " has changed meanwhile");
         if (!options_.data.empty()) keyHeight_ = ShownWellData::KeyHeight(plate);
         if (const std::optional<Size> size = ParseSize(options_.size)) FitInto(*size);
-        return true;
     }
 
     /// The picture as SVG; with data the key takes the lower end of its height.
@@ -121,12 +124,14 @@ void CheckOutput(const Options& options) {
 }
 
 ExitCode Run(const Options& options) {
+    if (IsStandard(options.plateLibrary) && IsStandard(options.data))
+        Fail("the library and the data cannot both come from standard input");
     CheckOutput(options);
     Drawing drawing(options);
     try {
-        if (!drawing.Load()) return kFailed;
+        drawing.Load();
     } catch (const RuntimeError& error) {
-        if (error.Number() != static_cast<Long>(ErrorNumber::Overflow)) throw;
+        if (!error.Is(ErrorNumber::Overflow)) throw;
         Fail(options.plate +
              " is too large to be drawn: choose a smaller scale, or check the library");
     }

@@ -21,9 +21,7 @@ constexpr Single kSwatchHeight = 165;
 constexpr Single kSwatchWidth = 960;
 constexpr int kSteps = 16; ///< of the scale; they divide the width into whole pixels
 
-bool IsInError(const Plate& plate, Integer well) {
-    return plate.IsDefined(well) && plate.ErrorCode(well) != 0;
-}
+bool IsInError(const Plate& plate, Integer well) { return plate.ErrorCode(well) != 0; }
 
 String CaptionOf(const Plate& plate, Integer well) {
     String caption = plate.WellAnnotation(well);
@@ -96,14 +94,20 @@ ShownWellData::ShownWellData(Plate& plate, const String& csv)
         ++position;
         scales_.push_back({subWell->WellName(), VolumeScale(plate, position)});
     }
+    for (const WellDataRow& row : rows)
+        if (row.hasVolume) measured_.insert(row.wellNo);
     for (Integer well = 0; well < plate.TotalWells(); ++well)
         Show(plate, well);
 }
 
 void ShownWellData::Show(Plate& plate, Integer well) {
-    const std::optional<Single> volume = KnownVolume(plate, well);
+    std::optional<Single> volume = KnownVolume(plate, well);
+    // In a well that is not defined, the control tells no 0 from no volume, but the file does.
+    if (measured_.contains(well)) volume = plate.GetVolume(well);
     if (IsInError(plate, well)) {
         inError_.push_back(static_cast<std::size_t>(well));
+        // The control shows errors of defined wells only.
+        if (!plate.IsDefined(well)) plate.WellFill(well, kInError);
     } else if (volume && ShowsVolumes()) {
         const Integer subWell = WellGrid{plate.Rows, plate.Cols}.PlaceOf(well).subWell;
         const VolumeScale& scale = scales_[static_cast<std::size_t>(subWell - 1)].scale;
@@ -113,7 +117,8 @@ void ShownWellData::Show(Plate& plate, Integer well) {
 }
 
 bool ShownWellData::ShowsVolumes() const {
-    return std::any_of(scales_.begin(), scales_.end(),
+    return !measured_.empty() ||
+           std::any_of(scales_.begin(), scales_.end(),
                        [](const SubWellScale& each) { return !each.scale.Empty(); });
 }
 

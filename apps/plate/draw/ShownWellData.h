@@ -4,6 +4,7 @@
 #include "drawing/Canvas.h"
 #include "welldata/VolumeScale.h"
 
+#include <unordered_set>
 #include <vector>
 
 namespace zorvane {
@@ -34,7 +35,8 @@ class ShownWellData {
     void Show(Plate& plate, Integer well);
     bool ShowsVolumes() const;
 
-    std::vector<SubWellScale> scales_; ///< of all sub-wells, in their order
+    std::vector<SubWellScale> scales_;     ///< of all sub-wells, in their order
+    std::unordered_set<Integer> measured_; ///< wells whose volume the file gives, be it 0
     Long defaultColor_;
     std::vector<std::size_t> inError_;
 };

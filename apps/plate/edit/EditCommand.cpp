@@ -5,6 +5,7 @@
 #include "library/LibraryDocument.h"
 #include "library/LineDifference.h"
 #include "library/ReadBack.h"
+#include "library/ReplaceFile.h"
 
 #include <iostream>
 #include <map>
@@ -86,27 +87,50 @@ String Edited(const LibraryText& library, const String& name, const std::vector<
     return plate.Text();
 }
 
+/// A library before and after the edits of a plate.
+struct Change {
+    String definition; ///< of the plate, changed
+    LibraryText before;
+    LibraryText after;
+};
+
+Change ChangeOf(const LibraryText& library, const std::vector<PlateEdit>& edits,
+                const Options& options) {
+    return WithFile(options.plateLibrary, [&]() -> Change {
+        const String definition = Edited(library, options.plate, edits);
+        return {definition, library, library.WithReplaced(definition)};
+    });
+}
+
+void PrintDifference(const Change& change, const Options& options) {
+    Print(UnifiedDifference(change.before.Bytes(), change.after.Bytes(), options.plateLibrary));
+}
+
+ExitCode EditText(const std::vector<PlateEdit>& edits, const Options& options) {
+    const Change change = ChangeOf(ReadLibrary(options.plateLibrary), edits, options);
+    options.difference ? PrintDifference(change, options) : Print(change.definition);
+    return kDone;
+}
+
+ExitCode EditFile(const std::vector<PlateEdit>& edits, const Options& options) {
+    if (IsStandard(options.plateLibrary)) Fail("standard input cannot be changed in place");
+    DiskFiles files;
+    const auto lock = LockForSaving(files, options.plateLibrary);
+    LibraryDocument document(files, options.plateLibrary);
+    const Change change = ChangeOf(document.Text(), edits, options);
+    // Printed first: once it is saved, the answer must not be that it failed.
+    if (options.difference) PrintDifference(change, options);
+    if (change.after.Bytes() != change.before.Bytes()) document.Save(change.after);
+    return kDone;
+}
+
 ExitCode Run(const CLI::App& parser, const Options& options) {
     const std::vector<PlateEdit> edits = EditsIn(parser, options);
     if (edits.empty()) {
         std::cerr << "plate: no change is given; \"plate edit --help\" lists them\n";
         return kWrongUsage;
     }
-    DiskFiles files;
-    LibraryDocument document(files, options.plateLibrary);
-    const String before = document.Text().Bytes();
-    String definition;
-    const LibraryText changed = WithFile(options.plateLibrary, [&] {
-        definition = Edited(document.Text(), options.plate, edits);
-        return document.Text().WithReplaced(definition);
-    });
-    if (options.inPlace && changed.Bytes() != before) document.Save(changed);
-    if (options.difference) {
-        Print(UnifiedDifference(before, changed.Bytes(), options.plateLibrary));
-    } else if (!options.inPlace) {
-        Print(definition);
-    }
-    return kDone;
+    return options.inPlace ? EditFile(edits, options) : EditText(edits, options);
 }
 
 } // namespace

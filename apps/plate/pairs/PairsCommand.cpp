@@ -4,7 +4,6 @@
 #include "apps/plate/pairs/SavedPairs.h"
 #include "apps/plate/table/Table.h"
 
-#include <filesystem>
 #include <memory>
 #include <optional>
 
@@ -56,14 +55,14 @@ ExitCode Run(const Options& options) {
     const bool changes = adds || !options.remove.empty();
     SavedPairs saved(options.file);
     TStringPairList list;
-    std::error_code ignored;
-    if (!adds || std::filesystem::exists(options.file, ignored))
-        saved.Read(list, changes ? FileContent::NothingElse : FileContent::Any);
+    changes ? saved.ReadToChange(list, adds) : saved.Read(list);
     if (from) AddPairs(list, *from);
     Change(list, options);
-    if (changes) saved.Save(list);
-    if (to) StorePairs(list, *to);
+    if (changes) saved.Prepare(list);
+    // Printed first: once it is saved, the answer must not be that it failed.
     Print(TableText(TableOf(list), options.form));
+    if (changes) saved.Save();
+    if (to) StorePairs(list, *to);
     return kDone;
 }
 

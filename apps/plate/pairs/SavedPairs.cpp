@@ -1,26 +1,27 @@
 #include "apps/plate/pairs/SavedPairs.h"
 
 #include "apps/plate/Files.h"
-#include "library/DiskFiles.h"
+#include "apps/plate/pairs/XmlTokens.h"
 #include "library/ReplaceFile.h"
 #include "runtime/Text.h"
 #include "support/XMLFile.h"
 
-#include <cstdlib>
-#include <filesystem>
-#include <iostream>
+#include <algorithm>
 
 namespace zorvane {
 
 namespace {
 
-/// What an error of a file says, with the file's name in it.
+/// What an error of reading says, with the file's name in it.
 String WordsFor(const RuntimeError& error, const String& file) {
+    const String name = ShownName(file);
+    if (error.Is(ErrorNumber::XMLNotOpened)) return name + ": no XML header on its first line";
+    if (error.Is(ErrorNumber::XMLNotRead)) return name + ": ends inside a section";
     for (const String& words : {error.Description(), error.Source()}) {
-        const bool named = words.find("<" + file + ">") != words.npos;
-        if (named || words.ends_with(" in file " + file)) return words;
+        const std::size_t place = words.find(" in file ");
+        if (place != words.npos) return name + ": " + words.substr(0, place);
     }
-    return file + ": sections are nested too deeply, or end before they begin";
+    return name + ": sections are nested too deeply, or end before they begin";
 }
 
 /// A text without quotes around it, and with those inside single again.
@@ -34,103 +35,93 @@ String Unquoted(std::string_view text) {
     return plain;
 }
 
-bool IsAtEnd(XMLFile& x) {
-    try {
-        x.ReadXMLSectionHeader();
-    } catch (const RuntimeError& error) {
-        return error.Is(ErrorNumber::XMLNotRead);
-    }
-    return false;
-}
-
-/// Returns whether the file holds nothing else.
-bool ReadList(TStringPairList& list, const String& file) {
+void ReadList(TStringPairList& list, const String& bytes) {
     XMLFile x;
-    x.FileName(file);
-    const bool begins = EqualNoCase(x.ReadXMLSectionHeader(), "PairList");
+    x.ReadFrom(bytes);
+    x.ReadXMLSectionHeader();
     list.ReadFromXML(x);
-    return begins && IsAtEnd(x);
 }
 
-/// Empty where there is no such file: reading the list from it says why.
-String BytesOf(const String& file) {
-    try {
-        return DiskFiles().Read(file);
-    } catch (const RuntimeError&) {
-        return {};
-    }
-}
-
-void WarnOfLosses(const TStringPairList& list, const TStringPairList& kept) {
-    for (const auto& pair : list) {
-        if (Holds(kept, *pair)) continue;
-        std::cerr << "plate: warning: " << PrintableUtf8(pair->Name())
-                  << (EqualNoCase(pair->Name(), pair->Value())
-                          ? ": is not kept, because its value is its name\n"
-                          : ": its value is not kept as it is\n");
-    }
-}
-
-/// A folder that only this process can look into, and that goes away with this object.
-class PrivateFolder {
-  public:
-    PrivateFolder() {
-        if (!::mkdtemp(path_.data())) Fail(path_ + ": cannot be created");
-    }
-    ~PrivateFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    PrivateFolder(const PrivateFolder&) = delete;
-    PrivateFolder& operator=(const PrivateFolder&) = delete;
-
-    const String& Path() const { return path_; }
-
-  private:
-    String path_ = std::filesystem::temp_directory_path() / "plate-XXXXXX";
-};
-
-/// Reads what was written before it takes the place of anything.
-void CheckWritten(const TStringPairList& list, const String& written, const String& file) {
-    TStringPairList kept;
-    try {
-        ReadList(kept, written);
-    } catch (const RuntimeError&) {
-        Fail(file + ": not changed: a name with a \">\" or a line break in it cannot be saved");
-    }
-    WarnOfLosses(list, kept);
-}
-
-/// The bytes of a file with the list.
-String Written(const TStringPairList& list, const String& file) {
-    const PrivateFolder folder;
+String Written(const TStringPairList& list) {
+    String bytes;
     XMLFile x;
-    x.FileName(folder.Path() + "/list.xml");
+    x.WriteTo(bytes);
     list.WriteToXML(x);
     x.CloseXMLFile();
-    CheckWritten(list, x.FileName(), file);
-    return ReadFile(x.FileName());
+    return bytes;
+}
+
+bool IsFor(char c, std::string_view characters) { return characters.find(c) != characters.npos; }
+
+bool HasControlCharacter(std::string_view text) {
+    return std::any_of(text.begin(), text.end(), [](char c) {
+        return static_cast<unsigned char>(c) < 0x20 && !IsFor(c, "\t\r\n");
+    });
+}
+
+/// The format writes names into attributes as they are.
+bool IsGeneralXml(const TStringPair& pair) {
+    const String& name = pair.Name();
+    const String both = name + pair.Value();
+    return name.find_first_of("\"<&") == name.npos && IsUtf8(both) && !HasControlCharacter(both);
+}
+
+void CheckKept(const TStringPairList& list, const String& bytes, const String& file) {
+    TStringPairList kept;
+    try {
+        ReadList(kept, bytes);
+    } catch (const RuntimeError&) {
+        Fail(file + " was not saved: a name with a \">\" or a line break in it cannot be kept");
+    }
+    for (const auto& pair : list) {
+        if (Holds(kept, *pair)) continue;
+        Fail(file + " was not saved: " + pair->Name() +
+             (EqualNoCase(pair->Name(), pair->Value())
+                  ? " would not be kept, because its value is its name"
+                  : " would not be kept as it is"));
+    }
+}
+
+void WarnOfOtherReaders(const TStringPairList& list) {
+    for (const auto& pair : list) {
+        if (IsGeneralXml(*pair)) continue;
+        Warn(pair->Name() + ": programs that read all of XML will refuse the file, because of a "
+                            "character in this pair");
+    }
 }
 
 } // namespace
 
-void SavedPairs::Read(TStringPairList& list, FileContent content) {
-    bool nothingElse = true;
+void SavedPairs::Read(TStringPairList& list) const { ReadBytes(list, ReadFile(file_)); }
+
+void SavedPairs::ReadBytes(TStringPairList& list, const String& bytes) const {
     try {
-        // First, so that a change in between shows when the file is saved.
-        if (content == FileContent::NothingElse) bytes_ = BytesOf(file_);
-        nothingElse = ReadList(list, file_);
+        ReadList(list, bytes);
     } catch (const RuntimeError& error) {
         Fail(WordsFor(error, file_));
     }
-    if (!nothingElse && content == FileContent::NothingElse)
-        Fail(file_ + ": holds more than a list of pairs, and is not changed");
     list.Name = Unquoted(list.Name);
 }
 
-void SavedPairs::Save(const TStringPairList& list) const {
-    DiskFiles files;
-    ReplaceFile(files, file_, Written(list, file_), bytes_);
+void SavedPairs::ReadToChange(TStringPairList& list, bool mayBeNew) {
+    if (IsStandard(file_)) Fail("standard input cannot be changed");
+    lock_ = LockForSaving(files_, file_);
+    if (mayBeNew && !files_.Exists(files_.Resolved(file_))) return;
+    bytes_ = ReadFile(file_);
+    ReadBytes(list, *bytes_);
+    if (XmlTokens(Written(list)) != XmlTokens(*bytes_))
+        Fail(file_ + ": holds more than a list of pairs, and is not changed");
+}
+
+void SavedPairs::Prepare(const TStringPairList& list) {
+    toSave_ = Written(list);
+    CheckKept(list, toSave_, file_);
+    WarnOfOtherReaders(list);
+}
+
+void SavedPairs::Save() {
+    bytes_ ? ReplaceFile(files_, file_, toSave_, *bytes_) : CreateFile(files_, file_, toSave_);
+    lock_.reset();
 }
 
 bool Holds(const TStringPairList& list, const TStringPair& pair) {
