@@ -50,7 +50,7 @@ TEST(LibraryIndex, ListsWhatALookUpReads) {
                 "x" + std::to_string(each.cols) + " " + std::to_string(each.subWells) + " [" +
                 each.tags + "]" + (each.found ? " found\n" : "\n");
     }
-    EXPECT_EQ(text, "3:A 8x12 2 [x y] found\n9:a 0x0 0 []\n13: 0x0 0 []\n14:B 0x0 0 []\n");
+    EXPECT_EQ(text, "3:A 8x12 2 [x y] found\n9:a 8x12 0 []\n13: 8x12 0 []\n14:B 8x12 0 []\n");
     EXPECT_EQ(listing.stoppedAtLine, 15);
     EXPECT_EQ(listing.code, 7);
 }
