@@ -7,8 +7,8 @@ namespace zorvane {
 
 namespace {
 
-std::vector<Finding> Check(TextFile& file, const String& name) {
-    LibraryChecker checker(name);
+std::vector<Finding> Check(TextFile& file, const String& name, Standards standards) {
+    LibraryChecker checker(name, standards);
     String line;
     while (!file.AtEnd()) {
         file.ReadLine(line);
@@ -19,16 +19,16 @@ std::vector<Finding> Check(TextFile& file, const String& name) {
 
 } // namespace
 
-std::vector<Finding> CheckLibrary(const String& fileName) {
+std::vector<Finding> CheckLibrary(const String& fileName, Standards standards) {
     TextFile file;
     file.OpenInput(fileName);
-    return Check(file, fileName);
+    return Check(file, fileName, standards);
 }
 
-std::vector<Finding> CheckLibraryText(const String& text, const String& name) {
+std::vector<Finding> CheckLibraryText(const String& text, const String& name, Standards standards) {
     TextFile file;
     file.OpenText(text);
-    return Check(file, name);
+    return Check(file, name, standards);
 }
 
 } // namespace zorvane

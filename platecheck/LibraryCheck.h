@@ -23,13 +23,20 @@ struct Finding {
     Long caret = 0;  ///< where in lineText the part begins, in characters from 0
 };
 
+/// What plates are compared with beyond the rules of libraries.
+enum class Standards : std::uint8_t {
+    None,
+    Slas ///< those of microplates; each difference is a warning
+};
+
 /// Reads a whole library as the look-up of a plate does, but past everything that ends a look-up,
 /// and tells what is wrong with it in the order of the lines. Errors 53, 76, 75 and 57 as for
 /// reading a file.
-std::vector<Finding> CheckLibrary(const String& fileName);
+std::vector<Finding> CheckLibrary(const String& fileName, Standards standards = Standards::None);
 
 /// The same for the text of a library, which findings give that name.
-std::vector<Finding> CheckLibraryText(const String& text, const String& name);
+std::vector<Finding> CheckLibraryText(const String& text, const String& name,
+                                      Standards standards = Standards::None);
 
 /// "file:line: error: message" and below it the line and a caret, each ended by a line feed.
 String FindingText(const Finding& finding);

@@ -1,5 +1,6 @@
 #include "platecheck/LibraryChecker.h"
 
+#include "platecheck/SlasCheck.h"
 #include "runtime/Text.h"
 
 #include <utility>
@@ -67,6 +68,7 @@ void LibraryChecker::OpenPlate(const LineParts& parts) {
 void LibraryChecker::ClosePlate() {
     // What a failed line leaves behind is not what the plate is meant to be.
     if (!broken_) CheckPlate(plate_, lines_, findings_);
+    if (!broken_ && standards_ == Standards::Slas) CheckSlas(plate_, lines_, findings_);
     plate_.BeginReading();
     inPlate_ = false;
 }

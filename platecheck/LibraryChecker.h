@@ -16,7 +16,8 @@ namespace zorvane {
 /// look-up of a plate would stop, this one goes on as if the line were not there.
 class LibraryChecker {
   public:
-    explicit LibraryChecker(const String& fileName) : findings_(fileName) {}
+    LibraryChecker(const String& fileName, Standards standards)
+        : standards_(standards), findings_(fileName) {}
 
     /// Lines are counted from 1.
     void Read(String& line);
@@ -42,6 +43,7 @@ class LibraryChecker {
     void AddStop(String reason, bool insidePlate);
     void Report(const Stop& stop);
 
+    Standards standards_;
     cmPlate plate_;
     FindingList findings_;
     SourceLine line_;

@@ -123,10 +123,8 @@ class Check {
         return last.front() < (lower ? 'a' : 'A');
     }
 
-    /// At the value of a keyword where the plate gives it, otherwise at the plate's name.
     void Report(Severity severity, Keyword keyword, String message) {
-        const auto given = lines_.values.find(keyword);
-        const SourceLine& line = given == lines_.values.end() ? lines_.plate : given->second;
+        const SourceLine& line = lines_.LineOf(keyword);
         findings_.Add(severity, line, LineParts(line.text).first, std::move(message));
     }
 

@@ -14,6 +14,12 @@ struct PlateLines {
     SourceLine plate;
     std::map<Keyword, SourceLine> values; ///< those of the plate itself
     std::vector<SourceLine> subWells;     ///< the first line of each, in layout order
+
+    /// The line that gives a value, otherwise that of the plate's name.
+    const SourceLine& LineOf(Keyword keyword) const {
+        const auto given = values.find(keyword);
+        return given == values.end() ? plate : given->second;
+    }
 };
 
 /// Finds what is wrong with a plate as a whole: with its grid, its labels and what it leaves out.
