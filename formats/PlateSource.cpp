@@ -79,6 +79,8 @@ void RequireShared(const std::vector<SourceWell>& wells) {
 
 void AddSubWell(Lines& lines, const SourceSubWell& subWell, const PlateGrid& grid) {
     RequireWord(subWell.name, "a sub-well");
+    if (subWell.name.find('.') != subWell.name.npos)
+        RefuseSource("the name of a sub-well cannot have a full stop, as " + subWell.name + " has");
     RequireShared(subWell.wells);
     const SourceWell& well = subWell.wells.front();
     lines.Add("WELL", subWell.name);

@@ -87,12 +87,14 @@ std::vector<String> Tags(const JsonNode& labware) {
     return tags;
 }
 
-/// The name of the first group of wells where it is a word.
+/// The name of the first group of wells where it is a word, in which a definition can have no full
+/// stop.
 String SubWellName(const JsonNode& labware) {
     for (const JsonNode& group : labware.At("groups").Items()) {
         const JsonNode metadata = group.At("metadata");
-        if (metadata.Has("displayName") && IsWord(metadata.At("displayName").Text()))
-            return metadata.At("displayName").Text();
+        if (!metadata.Has("displayName")) break;
+        const String& name = metadata.At("displayName").Text();
+        if (IsWord(name) && name.find('.') == name.npos) return name;
         break;
     }
     return "Well";

@@ -71,8 +71,7 @@ void ExportWells(const cmPlate& plate, const Options& options) {
 }
 
 ExitCode Run(const Options& options) {
-    cmPlate plate;
-    if (!plate.SetPlate(options.plateLibrary, options.plate)) return kFailed;
+    const cmPlate plate = ReadPlate(options.plateLibrary, options.plate);
     WithFile(options.plate, [&] {
         options.format == "csv" ? ExportWells(plate, options) : ExportLabware(plate, options);
     });

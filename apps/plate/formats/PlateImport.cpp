@@ -6,7 +6,6 @@
 #include "formats/wells/WellTable.h"
 #include "runtime/Text.h"
 
-#include <iostream>
 #include <map>
 
 namespace zorvane {
@@ -32,12 +31,11 @@ void WarnOfBottom(const String& file, const ExactNumber& offset) {
     if (SameNumber(offset, ExactNumber())) return;
     const bool higher = offset.Units() > 0;
     const ExactNumber distance = higher ? offset : ExactNumber() - offset;
-    std::cerr << "plate: " << PrintableUtf8(file) << ": left out: the bottoms lie "
-              << distance.Text() << " mm " << (higher ? "higher" : "lower")
-              << " than the height less the depth\n";
+    Warn(file + ": left out: the bottoms lie " + distance.Text() + " mm " +
+         (higher ? "higher" : "lower") + " than the height less the depth");
 }
 
-SourcePlate ReadPlate(const String& file) {
+SourcePlate ReadLabwareFile(const String& file) {
     const String text = ReadFile(file);
     const LabwareSource labware = WithFile(file, [&] { return ReadLabware(text); });
     WarnOfBottom(file, labware.bottomOffset);
@@ -62,7 +60,7 @@ String MergedLibrary(const std::vector<String>& files, const String& name) {
     SourcePlate merged;
     merged.name = name;
     for (const String& file : files) {
-        const SourcePlate plate = ReadPlate(file);
+        const SourcePlate plate = ReadLabwareFile(file);
         WithFile(file, [&] { Merge(merged, plate); });
     }
     return WithFile(name, [&] { return DefinitionText(merged); });
@@ -74,7 +72,7 @@ String LibraryOfLabware(const std::vector<String>& files, const String& mergedNa
     if (!mergedName.empty()) return MergedLibrary(files, mergedName);
     Library library;
     for (const String& file : files) {
-        const SourcePlate plate = ReadPlate(file);
+        const SourcePlate plate = ReadLabwareFile(file);
         WithFile(file, [&] { library.Add(file, plate); });
     }
     return library.Text();
