@@ -3,6 +3,7 @@
 /// for a carriage return, \ where the last line has no end, and an exit code other than 0 in
 /// brackets. Lines that begin with "#" are comments. Where an answer differs, the new transcript is
 /// left in the present folder with the ending ".new"; it can take the place of the old one.
+/// A page in Markdown is replayed too: its blocks of the language "console" are one transcript.
 
 #include <algorithm>
 #include <cstdio>
@@ -30,10 +31,18 @@ std::string AnswerTo(const std::string& command) {
     return status == 0 ? answer : answer + "[" + std::to_string(WEXITSTATUS(status)) + "]\n";
 }
 
-std::string Replayed(const std::string& transcript) {
+std::string Replayed(const std::string& transcript, bool isPage) {
     std::istringstream lines(transcript);
     std::string replayed, command;
+    bool inConsole = !isPage;
     for (std::string line; std::getline(lines, line);) {
+        const bool fence = isPage && line.starts_with("```");
+        if (fence) inConsole = line == "```console";
+        if (fence || !inConsole) {
+            if (!command.empty()) replayed += AnswerTo(std::exchange(command, {}));
+            replayed += line + "\n";
+            continue;
+        }
         const bool goesOn = line.starts_with('>') && !command.empty();
         if (!goesOn && !command.empty()) replayed += AnswerTo(std::exchange(command, {}));
         if (goesOn || line.starts_with("$ "))
@@ -56,7 +65,7 @@ int main(int argc, char** argv) {
     fs::remove_all(folder);
     fs::create_directory(folder);
     fs::current_path(folder);
-    const std::string replayed = Replayed(recorded);
+    const std::string replayed = Replayed(recorded, fs::path(argv[1]).extension() == ".md");
     fs::current_path(folder.parent_path());
     fs::remove_all(folder);
     if (!recorded.empty() && replayed == recorded) return EXIT_SUCCESS;
