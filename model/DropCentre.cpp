@@ -6,8 +6,10 @@ namespace zorvane {
 
 Coordinate DropCentre(const cmPlate& plate, const WellDetails& subWell, Integer row, Integer col) {
     Coordinate centre;
-    centre.X(ToSingle(Double{plate.XPitch()} * col + subWell.xOffset()));
-    centre.Y(ToSingle(Double{plate.YPitch()} * row + subWell.yOffset()));
+    const Double x = Double{subWell.xOffset()} + subWell.RimCenterX();
+    const Double y = Double{subWell.yOffset()} + subWell.RimCenterY();
+    centre.X(ToSingle(x + Double{plate.XPitch()} * col));
+    centre.Y(ToSingle(y + Double{plate.YPitch()} * row));
     centre.Z(ToSingle(Double{plate.Height()} - subWell.Depth()));
     return centre;
 }

@@ -1,3 +1,4 @@
+#include "model/DropCentre.h"
 #include "model/cmPlate.h"
 
 #include "Test.h"
@@ -40,6 +41,14 @@ TEST(WellGeometry, FindsEnvelopesAndCentroids) {
     finds("WELL A\r\nWELLDIAMETER 2\r\nXOFFSET -4\r\nWELL B\r\nWELLDIAMETER 2\r\nXOFFSET 4",
           "(22.0, 17.0, 0.0)(32.0, 19.0, 0.0)", "(27.0, 18.0, 0.0)");
     EXPECT_EQ(NumberRaisedBy([] { cmPlate().WellCentroid(0, 0); }), 9);
+}
+
+TEST(WellGeometry, TheDropIsInTheMiddleOfItsRim) {
+    const cmPlate plate =
+        Read("PLATE P\r\nXPITCH 9\r\nYPITCH 8\r\nHEIGHT 14\r\nWELL A\r\nDEPTH 2\r\n"
+             "XOFFSET 1\r\nYOFFSET 2\r\nRIMCENTERX 0.5\r\nRIMCENTERY -0.25");
+    EXPECT_EQ(DropCentre(plate, *plate.CompoundWell()->Item(1), 2, 3).AsText(),
+              "(28.5, 17.75, 12.0)");
 }
 
 } // namespace
