@@ -36,7 +36,7 @@ struct PlaneMap {
 };
 
 /// Whether the axes of a stage turn as those of the plate do, X to the right and Y downwards, or
-/// the other way, as with Y upwards. Two points do not tell; three do, and are asked nothing.
+/// the other way, as with Y upwards. Two points do not show which; three do, and this is ignored.
 enum class StageAxes : std::uint8_t { LikePlate, Mirrored };
 
 /// Where the points of a plate lie on the stage of an instrument, from points that were measured.

@@ -12,7 +12,7 @@ namespace zorvane {
 /// two lengths has the digits that a person would write.
 class ExactNumber {
   public:
-    /// What is farther from zero is no size of a plate: 4 kilometres or litres.
+    /// Numbers farther from zero are refused; no plate is 4 kilometres long or holds 4 litres.
     static constexpr std::int64_t kLargest = 4'000'000;
     /// How many units make 1.
     static constexpr std::int64_t kOne = 1'000'000'000'000;

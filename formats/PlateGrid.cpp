@@ -29,7 +29,7 @@ std::vector<const SourceWell*> InOrder(const std::vector<SourceWell>& wells, con
         return static_cast<std::size_t>((position.row - rows.first) * cols.count + position.col -
                                         cols.first);
     };
-    // What is far from complete must not take the memory of what would be.
+    // A few wells with distant names must not take the memory of all those between them.
     const auto size =
         static_cast<std::size_t>(std::min(places, static_cast<std::int64_t>(wells.size()) + 1));
     std::vector<const SourceWell*> ordered(size);

@@ -4,11 +4,11 @@
 
 namespace zorvane {
 
-/// The rows or the columns of a grid, from the top or the left on.
+/// The rows of a grid from the top, or its columns from the left.
 struct GridLines {
-    Long first = 0; ///< the least name among them
+    Long first = 0; ///< the lowest of their names
     Long count = 0;
-    bool countsDown = false; ///< names fall along the plate
+    bool countsDown = false; ///< the first has the highest name
     ExactNumber offset;      ///< the centre of the first line
     ExactNumber pitch;
 
@@ -25,7 +25,7 @@ struct PlateGrid {
     /// The refusals of DefinitionText.
     explicit PlateGrid(const std::vector<SourceWell>& wells);
 
-    /// Refuses wells that are off the grid, when it has the offsets of these.
+    /// Refuses wells that are not where the offsets and pitches have them.
     void RequireRegular(const std::vector<SourceWell>& wells) const;
 };
 

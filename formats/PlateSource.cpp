@@ -123,7 +123,7 @@ void AddPlate(Lines& lines, const SourcePlate& plate, const PlateGrid& grid) {
     lines.Add("COLS", std::to_string(grid.cols.count));
     lines.Add("ROWLABEL", FirstLabel(grid.rows, "rows", RowLabel));
     lines.Add("COLLABEL", FirstLabel(grid.cols, "columns", ColLabel));
-    // Rims are cut to the pitch, so that of one row or column is the whole plate.
+    // Rims are cut to the pitch: a single row or column has the whole plate for them.
     lines.Add("XPITCH", grid.cols.count > 1 ? grid.cols.pitch : plate.length);
     lines.Add("YPITCH", grid.rows.count > 1 ? grid.rows.pitch : plate.width);
     lines.Add("XOVERALL", plate.length);

@@ -33,7 +33,7 @@ SourceWell AtOrigin(const WellDetails& subWell) {
     return well;
 }
 
-/// A coordinate some pitches farther on.
+/// A coordinate that many pitches away.
 ExactNumber Moved(const ExactNumber& from, const ExactNumber& pitch, Integer count) {
     const std::int64_t farthest = ExactNumber::kLargest * ExactNumber::kOne;
     if (count > 0 && std::abs(pitch.Units()) > farthest / count) Refuse("the plate is too large");

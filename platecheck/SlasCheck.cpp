@@ -1,5 +1,6 @@
 #include "platecheck/SlasCheck.h"
 
+#include "model/DropCentre.h"
 #include "platetext/LineParts.h"
 #include "runtime/NumberText.h"
 
@@ -32,7 +33,7 @@ constexpr std::array<WellFormat, 3> kFormats{{{8, 12, 9, 14.38, 11.24, 0.70},
                                               {16, 24, 4.5, 12.13, 8.99, 0.70},
                                               {32, 48, 2.25, 11.005, 7.865, 0.50}}};
 
-/// Singles are some nanometres off the numbers that they were written as.
+/// By less than this the Singles of a plate are off the numbers in its text.
 constexpr Double kNoise = 1e-4;
 
 String Millimetres(Double value) { return FormatPicture(value, "0.0##"); }
@@ -83,10 +84,9 @@ class Check {
 
     void Offset(const WellFormat& format) {
         if (plate_.CompoundWell()->Count() == 0) return;
-        Point nearest = Centroid();
+        Coordinate nearest = plate_.WellCentroid(0, 0);
         for (const auto& subWell : *plate_.CompoundWell()) {
-            const Point centre{Double{subWell->xOffset()} + subWell->RimCenterX(),
-                               Double{subWell->yOffset()} + subWell->RimCenterY()};
+            const Coordinate centre = DropCentre(plate_, *subWell, 0, 0);
             if (Farthest(centre, format) < Farthest(nearest, format)) nearest = centre;
         }
         const Double off = Farthest(nearest, format);
@@ -94,36 +94,31 @@ class Check {
         const Point expected = First(format);
         const SourceLine& line = lines_.subWells.front();
         findings_.Warning(line, LineParts(line.text).first,
-                          "the first well is " + Millimetres(nearest.x) + " mm from the left and " +
-                              Millimetres(nearest.y) + " mm from the top; ANSI SLAS 4-2004 has " +
-                              Millimetres(expected.x) + " and " + Millimetres(expected.y) +
-                              " mm; the well farthest off is " + Millimetres(off) + " mm off, " +
-                              Allowed(format));
+                          "the first well is " + Millimetres(nearest.X()) +
+                              " mm from the left and " + Millimetres(nearest.Y()) +
+                              " mm from the top; ANSI SLAS 4-2004 has " + Millimetres(expected.x) +
+                              " and " + Millimetres(expected.y) + " mm; the well farthest off is " +
+                              Millimetres(off) + " mm off, " + Allowed(format));
     }
 
     static String Allowed(const WellFormat& format) {
         return Millimetres(format.diameter / 2) + " mm is allowed";
     }
 
-    Point Centroid() const {
-        const Coordinate centroid = plate_.WellCentroid(0, 0);
-        return {centroid.X(), centroid.Y()};
-    }
-
     Point First(const WellFormat& format) const {
         return upright_ ? Point{format.top, format.left} : Point{format.left, format.top};
     }
 
-    /// How far the corner well is off that is off most, for a centre of the first one.
-    Double Farthest(const Point& centre, const WellFormat& format) const {
+    /// How far the worst of the corner wells is off, for a centre of the first one.
+    Double Farthest(const Coordinate& centre, const WellFormat& format) const {
         const Point expected = First(format);
         const Double lastX = (plate_.XPitch() - format.pitch) * (plate_.Cols() - 1);
         const Double lastY = (plate_.YPitch() - format.pitch) * (plate_.Rows() - 1);
         Double farthest = 0;
         for (const Double dx : {0.0, lastX}) {
             for (const Double dy : {0.0, lastY})
-                farthest = std::max(
-                    farthest, std::hypot(centre.x - expected.x + dx, centre.y - expected.y + dy));
+                farthest = std::max(farthest, std::hypot(centre.X() - expected.x + dx,
+                                                         centre.Y() - expected.y + dy));
         }
         return farthest;
     }

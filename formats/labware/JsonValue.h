@@ -25,8 +25,8 @@ struct JsonValue {
 /// million values.
 JsonValue ParseJson(std::string_view json);
 
-/// A value and where it stands. What asks for a value of one type raises error 13, naming the value
-/// by its path, for one of another type.
+/// A value and its path. The functions that expect a type raise error 13 for a value of another,
+/// with its path.
 class JsonNode {
   public:
     /// The value must outlive the node.

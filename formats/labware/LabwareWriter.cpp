@@ -52,7 +52,7 @@ Json WellOf(const SourceWell& well, const SourcePlate& plate) {
     return json;
 }
 
-/// Appends a member without a look for one of the same name, which would take quadratic time.
+/// Appends a member without searching for one of its name: for many wells that takes long.
 void Append(Json& object, const String& name, Json value) {
     object.get_ref<Json::object_t&>().emplace_back(name, std::move(value));
 }

@@ -16,7 +16,7 @@ Long Partner(Long line) { return line % 2 == 0 ? line + 1 : line - 1; }
 
 Long Interleaved(Long line, Long across) { return across % 2 == 0 ? line : Partner(line); }
 
-/// The line of a well that a group of rows or columns knows it by.
+/// The row or column by which a group of that kind has a well.
 Long LineOf(GroupKind kind, const WellPosition& well) {
     switch (kind) {
     case GroupKind::Row:

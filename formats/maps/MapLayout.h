@@ -25,7 +25,7 @@ struct MapGroup {
 
 /// The wells of all groups in the order of rows and columns, each with the parameters of the groups
 /// that it is in. Rows have the wells that columns cross, and columns those of rows. Error 13 for
-/// more than 32767 wells, and for more work than a plate is worth.
+/// more than 32767 wells, and for more values than any plate has.
 std::vector<MappedWell> WellsOfLayout(std::vector<MapGroup> groups);
 
 } // namespace zorvane

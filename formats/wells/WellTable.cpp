@@ -74,7 +74,7 @@ std::vector<String> WordsOf(const String& text) {
     return words;
 }
 
-/// Puts the records of a file together to plates.
+/// Makes plates of the records of a file.
 class TableReader {
   public:
     explicit TableReader(const CsvRecord& header) : columns_(kNames, header) {

@@ -14,9 +14,9 @@
 namespace zorvane {
 
 /// The plates of a file in the order of their first lines. The columns plate, length, width,
-/// height, well, x, y and size-x must be there, and depth or z. What is left out is ROUND, called
-/// "Well", has size-x as size-y, and otherwise 0. Error 13, with the place, for anything that is
-/// not so.
+/// height, well, x, y and size-x must be there, and depth or z. Without its column, a style is
+/// ROUND, the sub-well "Well", size-y as size-x, and all else 0. Error 13, with the place, for any
+/// other file.
 std::vector<SourcePlate> ReadWellTable(std::string_view csv);
 
 /// The lines of one plate; the errors of PlateWells.

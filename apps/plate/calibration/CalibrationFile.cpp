@@ -1,5 +1,6 @@
 #include "apps/plate/calibration/CalibrationFile.h"
 
+#include "model/DropCentre.h"
 #include "runtime/Text.h"
 #include "welldata/CsvColumns.h"
 
@@ -29,7 +30,8 @@ class WellCentres {
         for (auto stop = name.find('.'); stop != name.npos; stop = name.find('.', stop + 1)) {
             const auto place = FindPlace(name.substr(0, stop));
             const auto subWell = FindSubWell(name.substr(stop + 1));
-            if (place && subWell) return CentreOf(*subWell, *place);
+            if (place && subWell)
+                return CentreOf(DropCentre(plate_, *subWell, place->row, place->col));
         }
         return std::nullopt;
     }
@@ -66,12 +68,6 @@ class WellCentres {
     }
 
     static PlanePoint CentreOf(const Coordinate& centre) { return {centre.X(), centre.Y()}; }
-    PlanePoint CentreOf(const WellDetails& subWell, const Place& place) const {
-        return {
-            Double{subWell.xOffset()} + subWell.RimCenterX() + Double{plate_.XPitch()} * place.col,
-            Double{subWell.yOffset()} + subWell.RimCenterY() + Double{plate_.YPitch()} * place.row};
-    }
-
     const cmPlate& plate_;
     std::unordered_map<String, Place> places_;
 };
