@@ -31,6 +31,7 @@ floor(welldata control)
 floor(formats welldata)
 floor(hosts/qt drawing platform/memory platform/sqlite)
 floor(hosts/designer hosts/qt)
+floor(python calibration drawing library platecheck platform/memory)
 floor(apps/plate calibration drawing formats library platecheck welldata platform/memory platform/sqlite)
 floor(apps/viewer hosts/qt library welldata)
 

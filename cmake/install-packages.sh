@@ -13,6 +13,7 @@ packages=(
 if [ "${1:-}" = --check ]; then
     packages+=(clang clang-format clang-tidy git libbenchmark-dev libpugixml-dev
               nlohmann-json3-dev libtomlplusplus-dev
+              pybind11-dev python3-dev python3-numpy python3-pytest python3-pip python3-setuptools python3-venv
               qt6-tools-dev qt6-l10n-tools libqt6opengl6-dev debhelper pkg-config doxygen)
 fi
 
