@@ -1,7 +1,5 @@
 #include "python/Bindings.h"
 
-#include "zorvane/version.h"
-
 PYBIND11_MODULE(_zorvane, module) {
     using namespace zorvane::python;
     module.doc() = "Plates, their geometry in millimetres, and pictures of them.";
