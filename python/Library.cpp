@@ -31,7 +31,7 @@ class Library {
 
     py::list Names() const {
         py::list names;
-        for (const LibraryEntry& entry : ListLibrary(document_.Path()).plates)
+        for (const LibraryEntry& entry : ListLibraryText(text_.Bytes()).plates)
             if (entry.found) names.append(Text(entry.name));
         return names;
     }
@@ -41,14 +41,9 @@ class Library {
             PyErr_SetObject(PyExc_KeyError, py::cast(name).ptr());
             throw py::error_already_set();
         }
-        TextFile file;
-        file.OpenText(text_.Bytes());
-        auto plate = std::make_shared<cmPlate>();
-        while (plate->ReadNextPlate(file, name.bytes) != kPlateRead) {
-        }
-        return plate;
+        return std::make_shared<cmPlate>(text_.LookedUp(name.bytes));
     }
-    std::vector<Finding> Check() const { return CheckLibrary(document_.Path()); }
+    std::vector<Finding> Check() const { return CheckLibraryText(text_.Bytes(), document_.Path()); }
 
     void Replace(cmPlate& plate) { text_ = text_.WithReplaced(ReadableText(plate)); }
     void Append(cmPlate& plate) { text_ = text_.WithAppended(ReadableText(plate)); }

@@ -24,7 +24,7 @@ struct NumberTraits {
 };
 
 constexpr NumberTraits kNumbers[] = {
-    {"x_offset", Keyword::XOffset, "Where the middle of the first position's bottom lies, in mm."},
+    {"x_offset", Keyword::XOffset, "Where it lies at the first position, in mm."},
     {"y_offset", Keyword::YOffset, "The same downwards."},
     {"depth", Keyword::Depth, "How far the bottom is below the plate's top, in mm."},
     {"size_x", Keyword::WellSizeX,
@@ -32,7 +32,7 @@ constexpr NumberTraits kNumbers[] = {
     {"size_y", Keyword::WellSizeY, "The same downwards."},
     {"rim_width", Keyword::RimWidth, "The thickness of the rim to the sides, in mm."},
     {"rim_height", Keyword::RimHeight, "The thickness of the rim above and below, in mm."},
-    {"rim_center_x", Keyword::RimCenterX, "Where the middle of the rim lies, in mm."},
+    {"rim_center_x", Keyword::RimCenterX, "How far its middle is from there, in mm."},
     {"rim_center_y", Keyword::RimCenterY, "The same downwards."},
     {"max_volume", Keyword::Volume, "The capacity."},
 };
