@@ -66,14 +66,16 @@ std::vector<Finding> FindingList::Sorted() && {
     return std::move(findings_);
 }
 
+String SeverityText(Severity severity) { return severity == Severity::Error ? "error" : "warning"; }
+
 String FindingText(const Finding& finding) {
-    const char* const severity = finding.severity == Severity::Error ? "error" : "warning";
+    const String severity = SeverityText(finding.severity);
     const Long shown = CharacterCount(finding.lineText) - finding.caret;
     const Long tail = std::max(0, std::min(finding.length, shown) - 1);
-    return OneLine(finding.file) + ":" + std::to_string(finding.line) + ": " + severity + ": " +
-           finding.message + "\n    " + finding.lineText + "\n    " +
-           String(static_cast<std::size_t>(finding.caret), ' ') + "^" +
-           String(static_cast<std::size_t>(tail), '~') + "\n";
+    return OneLine(finding.file) + ":" + std::to_string(finding.line) + ":" +
+           std::to_string(finding.column) + ": " + severity + ": " + finding.message + "\n    " +
+           finding.lineText + "\n    " + String(static_cast<std::size_t>(finding.caret), ' ') +
+           "^" + String(static_cast<std::size_t>(tail), '~') + "\n";
 }
 
 } // namespace zorvane

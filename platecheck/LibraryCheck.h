@@ -38,7 +38,10 @@ std::vector<Finding> CheckLibrary(const String& fileName, Standards standards = 
 std::vector<Finding> CheckLibraryText(const String& text, const String& name,
                                       Standards standards = Standards::None);
 
-/// "file:line: error: message" and below it the line and a caret, each ended by a line feed.
+/// "error" or "warning".
+String SeverityText(Severity severity);
+
+/// "file:line:column: error: message" and below it the line and a caret, each ended by a line feed.
 String FindingText(const Finding& finding);
 
 } // namespace zorvane

@@ -17,7 +17,11 @@ String PlateCount(Long count) {
 
 } // namespace
 
-LineCode LibraryChecker::Feed() { return plate_.ReadLine(Trim(line_.text)); }
+LineCode LibraryChecker::Feed() {
+    // Nothing is asked of the tags, and their list would be written again with each line.
+    plate_.Tags.Clear();
+    return plate_.ReadLine(Trim(line_.text));
+}
 
 void LibraryChecker::Read(String& line) {
     ++line_.number;
@@ -50,6 +54,7 @@ void LibraryChecker::OpenPlate(const LineParts& parts) {
     ++plates_;
     inPlate_ = true;
     broken_ = false;
+    commented_ = false;
     lines_.plate = line_;
     lines_.values.clear();
     lines_.subWells.clear();
@@ -78,6 +83,7 @@ void LibraryChecker::ReadKeyword(const LineParts& parts, bool failed) {
     if (!traits || traits->argument == ArgumentKind::Ignored) return;
     CheckArgument(*traits, parts, line_, findings_);
     NoteRepetition(*traits, parts);
+    CheckTrailingComment(*traits, parts);
     if (failed) {
         broken_ = true;
         return AddStop(ReasonOfFailure(*traits, parts), true);
@@ -100,6 +106,16 @@ void LibraryChecker::NoteRepetition(const KeywordTraits& traits, const LineParts
                               std::to_string(given.number));
     }
     given = line_;
+}
+
+/// Reports the first comment of a plate that becomes part of a recorded value.
+void LibraryChecker::CheckTrailingComment(const KeywordTraits& traits, const LineParts& parts) {
+    const bool recorded =
+        traits.argument != ArgumentKind::Tag && traits.argument != ArgumentKind::TagList;
+    if (commented_ || !recorded || parts.rest.size() == parts.surplus.size()) return;
+    commented_ = true;
+    findings_.Warning(line_, parts.rest.substr(parts.surplus.size()),
+                      "part of the recorded value, which programs are given and write with it");
 }
 
 void LibraryChecker::CheckSubWellName(const LineParts& parts) {

@@ -37,6 +37,7 @@ class LibraryChecker {
     void ClosePlate();
     void ReadKeyword(const LineParts& parts, bool failed);
     void NoteRepetition(const KeywordTraits& traits, const LineParts& parts);
+    void CheckTrailingComment(const KeywordTraits& traits, const LineParts& parts);
     void CheckSubWellName(const LineParts& parts);
     void UnknownKeyword(const LineParts& parts);
     void StrayLine(const LineParts& parts);
@@ -48,7 +49,8 @@ class LibraryChecker {
     FindingList findings_;
     SourceLine line_;
     bool inPlate_ = false;
-    bool broken_ = false; ///< a line of the plate failed
+    bool broken_ = false;    ///< a line of the plate failed
+    bool commented_ = false; ///< a recorded comment of the plate has been reported
     Long plates_ = 0;
     PlateLines lines_;
     std::map<Keyword, SourceLine> givenInSubWell_;

@@ -4,6 +4,7 @@
 #include "platetext/LineParts.h"
 #include "runtime/NumberText.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Text.h"
 
 #include <algorithm>
 #include <iterator>
@@ -109,10 +110,19 @@ class Check {
                    NameOf(keyword) + " " + Shown(first) + " counts down, to " + Shown(last) +
                        ": only 1, A and a count up");
         } catch (const RuntimeError&) {
+            if (!CanBeLabel(first)) {
+                return Report(Severity::Error, keyword,
+                              "cannot be shown: no label can begin with \"" + Shown(first) + "\"");
+            }
             Report(Severity::Error, keyword,
                    "too large to be shown: the labels from \"" + Shown(first) + "\" cannot reach " +
                        std::to_string(count) + " places");
         }
+    }
+
+    /// Legends are numbers, or count in the characters up to 255.
+    static bool CanBeLabel(std::string_view first) {
+        return IsNumber(first) || FirstCharacter(first).code <= 255;
     }
 
     static String NameOf(Keyword keyword) { return String(TraitsOf(keyword).name); }

@@ -44,8 +44,10 @@ class Check {
     void Run() {
         for (std::size_t i = 0; i < places_.size(); ++i)
             StaysOnPlate(i);
-        for (std::size_t i = 0; i < std::min(places_.size(), kMostCompared); ++i)
+        for (std::size_t i = 0; i < std::min(places_.size(), kMostCompared); ++i) {
+            FindCover(i);
             FindOverlap(i);
+        }
     }
 
   private:
@@ -66,6 +68,17 @@ class Check {
     void Leaves(std::size_t index, const String& where, const String& how) const {
         Warn(index, "the wells of " + NameOf(index) + " leave the plate: in the " + where +
                         " they " + how);
+    }
+
+    /// Sub-wells are drawn in their order, the first one on top.
+    void FindCover(std::size_t index) const {
+        for (std::size_t other = 0; other < index; ++other) {
+            if (!HasSize(places_[index]) || !HasSize(places_[other])) continue;
+            if (!Holds(places_[other].rim, places_[index].rim, 0)) continue;
+            return Warn(index, "the wells of " + NameOf(index) + " cannot be seen: those of " +
+                                   NameOf(other) +
+                                   " cover them, as the sub-well that comes first is drawn on top");
+        }
     }
 
     /// One finding for each sub-well, against those before it and itself in other positions.

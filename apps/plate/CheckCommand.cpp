@@ -1,10 +1,12 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
+#include "apps/plate/table/Table.h"
 #include "platecheck/LibraryCheck.h"
 #include "runtime/Text.h"
 
 #include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -14,32 +16,51 @@ namespace {
 
 struct Options {
     std::vector<String> libraries;
+    bool json = false;
+    bool strict = false;
     Standards standards = Standards::None;
 };
 
-/// The findings of one library on standard output; whether none of them is an error.
-bool Check(const String& library, Standards standards) {
-    const std::vector<Finding> findings = CheckLibraryText(ReadFile(library), library, standards);
-    String report;
-    for (const Finding& finding : findings)
-        report += FindingText(finding);
-    Print(report);
-    return std::none_of(findings.begin(), findings.end(),
-                        [](const Finding& finding) { return finding.severity == Severity::Error; });
+String FindingsJson(const std::vector<Finding>& findings) {
+    Table table{{"file", "line", "column", "length", "severity", "message", "text"}, {}};
+    for (const Finding& finding : findings) {
+        table.rows.push_back({finding.file, finding.line, finding.column, finding.length,
+                              SeverityText(finding.severity), finding.message, finding.lineText});
+    }
+    return TableText(table, TableForm::Json);
 }
 
-/// Goes on with the next library when one cannot be read.
-ExitCode Run(const Options& options) {
-    bool good = true;
+String FindingsText(const std::vector<Finding>& findings) {
+    String text;
+    for (const Finding& finding : findings)
+        text += FindingText(finding);
+    return text;
+}
+
+/// Goes on with the next library when one cannot be read; false then.
+bool FindAll(const Options& options, std::vector<Finding>& findings) {
+    bool read = true;
     for (const String& library : options.libraries) {
         try {
-            good = Check(library, options.standards) && good;
+            std::vector<Finding> found =
+                CheckLibraryText(ReadFile(library), ShownName(library), options.standards);
+            std::move(found.begin(), found.end(), std::back_inserter(findings));
         } catch (const RuntimeError& error) {
             std::cerr << "plate: " << PrintableUtf8(error.Description()) << "\n";
-            good = false;
+            read = false;
         }
     }
-    return good ? kDone : kFailed;
+    return read;
+}
+
+ExitCode Run(const Options& options) {
+    std::vector<Finding> findings;
+    const bool read = FindAll(options, findings);
+    Print(options.json ? FindingsJson(findings) : FindingsText(findings));
+    const bool bad = std::any_of(findings.begin(), findings.end(), [&](const Finding& finding) {
+        return options.strict || finding.severity == Severity::Error;
+    });
+    return read && !bad ? kDone : kFailed;
 }
 
 } // namespace
@@ -49,6 +70,8 @@ Command MakeCheckCommand(CLI::App& app) {
         app.add_subcommand("check", "Report what is wrong with plate libraries, line by line");
     auto options = std::make_shared<Options>();
     parser->add_option("libraries", options->libraries, "Plate library files")->required();
+    parser->add_flag("--json", options->json, "Write a JSON array of objects");
+    parser->add_flag("--strict", options->strict, "Warnings too make the exit status 1");
     parser->add_flag_callback(
         "--slas", [&standards = options->standards] { standards = Standards::Slas; },
         "Also warn where plates leave the ANSI SLAS standards of microplates");
@@ -58,6 +81,7 @@ Command MakeCheckCommand(CLI::App& app) {
                    "are errors, 0 when there are none.\n"
                    "Examples:\n"
                    "  plate check Plates.Dat\n"
+                   "  plate check --json --strict *.Dat | jq -r '.[].message'\n"
                    "  vim -q <(plate check Plates.Dat)");
     return {parser, [options] { return Run(*options); }};
 }

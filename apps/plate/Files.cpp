@@ -52,6 +52,14 @@ bool IsStandard(const String& file) { return file == "-"; }
 
 String ShownName(const String& file) { return IsStandard(file) ? "standard input" : file; }
 
+String PlateFailureText(const RuntimeError& error) {
+    if (error.Is(ErrorNumber::InvalidProcedureCall))
+        return " has rows or columns for which there are no letters or numbers";
+    if (error.Is(ErrorNumber::Overflow)) return " has too many values, or one that is too large";
+    if (error.Is(ErrorNumber::SubscriptOutOfRange)) return " has no sub-well";
+    return ": " + error.Description();
+}
+
 void Print(std::string_view text) { Write(std::cout, text, "standard output"); }
 
 void Warn(const String& text) { std::cerr << "plate: warning: " << PrintableUtf8(text) << "\n"; }

@@ -28,6 +28,20 @@ auto WithFile(const String& file, Action&& action) {
     }
 }
 
+/// What an error of a plate's members means, to follow the plate's name.
+String PlateFailureText(const RuntimeError& error);
+
+/// Does something with a plate and says in words what the failures of its members mean, after the
+/// plate's name.
+template <class Action>
+auto WithPlate(const String& plate, Action&& action) {
+    try {
+        return std::forward<Action>(action)();
+    } catch (const RuntimeError& error) {
+        Fail(plate + PlateFailureText(error));
+    }
+}
+
 /// Writes bytes to standard output as they are.
 void Print(std::string_view text);
 

@@ -97,8 +97,13 @@ struct Change {
 Change ChangeOf(const LibraryText& library, const std::vector<PlateEdit>& edits,
                 const Options& options) {
     return WithFile(options.plateLibrary, [&]() -> Change {
-        const String definition = Edited(library, options.plate, edits);
-        return {definition, library, library.WithReplaced(definition)};
+        try {
+            const String definition = Edited(library, options.plate, edits);
+            return {definition, library, library.WithReplaced(definition)};
+        } catch (const RuntimeError& error) {
+            if (!error.Is(ErrorNumber::Overflow)) throw;
+            Fail(options.plate + PlateFailureText(error));
+        }
     });
 }
 

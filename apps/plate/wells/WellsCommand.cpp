@@ -3,10 +3,9 @@
 #include "apps/plate/calibration/CalibrationFile.h"
 #include "apps/plate/calibration/CalibrationTable.h"
 #include "apps/plate/table/Table.h"
-#include "model/cmPlate.h"
+#include "apps/plate/wells/WellTables.h"
 
 #include <algorithm>
-#include <limits>
 #include <memory>
 
 namespace zorvane {
@@ -20,31 +19,12 @@ struct Options {
     String calibration;
     StageAxes axes = StageAxes::LikePlate;
     bool residuals = false;
+    bool subWells = false;
 };
 
-std::vector<Cell> WellRow(const cmPlate& plate, Integer row, Integer col) {
-    Coordinate low;
-    Coordinate high;
-    plate.WellEnvelope(row, col, low, high);
-    const Coordinate centre = plate.WellCentroid(row, col);
-    return {plate.WellLegend(row, col),
-            row,
-            col,
-            centre.X(),
-            centre.Y(),
-            low.X(),
-            low.Y(),
-            high.X(),
-            high.Y()};
-}
-
-Table TableOf(const cmPlate& plate) {
-    Table table{{"well", "row", "column", "x", "y", "xmin", "ymin", "xmax", "ymax"}, {}};
-    for (Integer row = 0; row < plate.Rows(); ++row) {
-        for (Integer col = 0; col < plate.Cols(); ++col)
-            table.rows.push_back(WellRow(plate, row, col));
-    }
-    return table;
+Table WellTable(const cmPlate& plate, const Options& options) {
+    return WithPlate(options.plate,
+                     [&] { return options.subWells ? SubWellTable(plate) : PositionTable(plate); });
 }
 
 /// Adds where the centres, which the columns "x" and "y" have, lie on the stage.
@@ -72,7 +52,7 @@ Table CalibratedTable(const cmPlate& plate, const Options& options) {
         const StageCalibration calibration(measured.points, options.axes);
         ReportFit(options.calibration, calibration);
         if (options.residuals) return ResidualTable(measured, calibration);
-        Table table = TableOf(plate);
+        Table table = WellTable(plate, options);
         AddStageColumns(table, calibration);
         return table;
     });
@@ -80,11 +60,8 @@ Table CalibratedTable(const cmPlate& plate, const Options& options) {
 
 ExitCode Run(const Options& options) {
     const cmPlate plate = ReadPlate(options.plateLibrary, options.plate);
-    if (Long{plate.Rows()} * plate.Cols() > std::numeric_limits<Integer>::max())
-        Fail(options.plate + ": a plate cannot have more than 32767 wells");
-    const Table table = options.calibration.empty()
-                            ? WithFile(options.plate, [&] { return TableOf(plate); })
-                            : CalibratedTable(plate, options);
+    const Table table =
+        options.calibration.empty() ? WellTable(plate, options) : CalibratedTable(plate, options);
     Print(TableText(table, options.form));
     return kDone;
 }
@@ -115,17 +92,21 @@ Command MakeWellsCommand(CLI::App& app) {
     parser->add_option("library", options->plateLibrary, "Plate library file")->required();
     parser->add_option("plate", options->plate, "Name of the plate, in any letter case")
         ->required();
+    parser->add_flag("--sub-wells", options->subWells,
+                     "Show every sub-well of each position, with its size and Z");
     AddFormOptions(*parser, options->form);
     AddCalibrationOptions(*parser, *options);
     parser->footer(
         "Rows and columns count from 0. x and y are the centre of a position over all its\n"
         "sub-wells, the others its box, rims included: mm from the top left corner.\n"
+        "With --sub-wells x and y are the centre of a sub-well and z is its bottom, the height of\n"
+        "the plate less the depth; volume is what it can hold.\n"
         "A calibration has the columns well (as A1 or A1.Drop1), or x and y in mm, and stage-x "
         "and\n"
         "stage-y. Two points give a turn, a scale and a shift; three or more the best affine map.\n"
         "Examples:\n"
         "  plate wells Plates.Dat Batch_96\n"
-        "  plate wells Plates.Dat Batch_96 --csv > wells.csv\n"
+        "  plate wells Plates.Dat Sitting_96x2 --sub-wells --csv > drops.csv\n"
         "  plate wells Plates.Dat Batch_96 --calibration stage.csv");
     return {parser, [options] { return Run(*options); }};
 }
