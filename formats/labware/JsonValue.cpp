@@ -49,12 +49,12 @@ class JsonBuilder final : public nlohmann::json_sax<Json> {
     bool end_array() override { return Close(); }
     bool key(string_t& name) override {
         if (name.size() > kLongestName) RefuseSource("a name has more than 256 bytes");
-        names_.back() = std::move(name);
+        open_.back()->names.push_back(std::move(name));
         return true;
     }
     bool end_object() override {
         std::unordered_set<std::string_view> names;
-        for (const auto& [name, value] : open_.back()->members)
+        for (const String& name : open_.back()->names)
             if (!names.insert(name).second) RefuseSource("\"" + name + "\" is there twice");
         return Close();
     }
@@ -75,9 +75,7 @@ class JsonBuilder final : public nlohmann::json_sax<Json> {
     JsonValue& Place() {
         if (++count_ > kMostValues) RefuseSource("there are more than half a million values");
         if (open_.empty()) return root_;
-        JsonValue& parent = *open_.back();
-        if (parent.type == JsonValue::Type::Array) return parent.items.emplace_back();
-        return parent.members.emplace_back(std::move(names_.back()), JsonValue()).second;
+        return open_.back()->items.emplace_back();
     }
 
     bool Open(JsonValue::Type type) {
@@ -86,19 +84,16 @@ class JsonBuilder final : public nlohmann::json_sax<Json> {
         JsonValue& value = Place();
         value.type = type;
         open_.push_back(&value);
-        names_.emplace_back();
         return true;
     }
 
     bool Close() {
         open_.pop_back();
-        names_.pop_back();
         return true;
     }
 
     JsonValue root_;
     std::vector<JsonValue*> open_;
-    std::vector<String> names_; ///< of each open value, the member that is read
     std::size_t count_ = 0;
 };
 
@@ -112,9 +107,9 @@ JsonValue ParseJson(std::string_view json) {
 
 const JsonValue* JsonNode::Find(const String& name) const {
     Require(JsonValue::Type::Object, "an object");
-    const auto found = std::find_if(value_->members.begin(), value_->members.end(),
-                                    [&name](const auto& member) { return member.first == name; });
-    return found == value_->members.end() ? nullptr : &found->second;
+    const auto found = std::find(value_->names.begin(), value_->names.end(), name);
+    if (found == value_->names.end()) return nullptr;
+    return &value_->items[static_cast<std::size_t>(found - value_->names.begin())];
 }
 
 JsonNode JsonNode::At(const String& name) const {
@@ -126,8 +121,8 @@ JsonNode JsonNode::At(const String& name) const {
 std::vector<std::pair<String, JsonNode>> JsonNode::Members() const {
     Require(JsonValue::Type::Object, "an object");
     std::vector<std::pair<String, JsonNode>> nodes;
-    for (const auto& [name, value] : value_->members)
-        nodes.emplace_back(name, JsonNode(value, PathOf(name)));
+    for (std::size_t i = 0; i < value_->items.size(); ++i)
+        nodes.emplace_back(value_->names[i], JsonNode(value_->items[i], PathOf(value_->names[i])));
     return nodes;
 }
 

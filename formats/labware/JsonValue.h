@@ -15,8 +15,8 @@ struct JsonValue {
     enum class Type : std::uint8_t { Null, Flag, Number, Text, Array, Object };
 
     Type type = Type::Null;
-    String text; ///< of a text or number; "true" or "false"
-    std::vector<std::pair<String, JsonValue>> members;
+    String text;               ///< of a text or number; "true" or "false"
+    std::vector<String> names; ///< of the items of an object
     std::vector<JsonValue> items;
 };
 
