@@ -102,12 +102,35 @@ class Unified {
     std::size_t new_ = 0;
 };
 
+/// A file's name as patching tools read it: followed by a tab, so that it may have blanks in it,
+/// and in quotes like those of C where that is not enough.
+String NameField(const String& name) {
+    const auto isSpecial = [](char c) {
+        return static_cast<unsigned char>(c) < 0x20 || c == 0x7F || c == '"' || c == '\\';
+    };
+    if (std::none_of(name.begin(), name.end(), isSpecial)) return name + "\t";
+    String quoted = "\"";
+    for (const char c : name) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (!isSpecial(c)) {
+            quoted += c;
+        } else if (c == '"' || c == '\\') {
+            quoted.append("\\").push_back(c);
+        } else {
+            quoted += '\\';
+            for (const int shift : {6, 3, 0})
+                quoted += static_cast<char>('0' + (byte >> shift & 7));
+        }
+    }
+    return quoted + "\"";
+}
+
 } // namespace
 
 String UnifiedDifference(std::string_view before, std::string_view after, const String& name) {
     const String hunks = Unified(before, after).Text();
-    // Followed by a tab, so that a name may have blanks in it.
-    return hunks.empty() ? hunks : "--- " + name + "\t\n+++ " + name + "\t\n" + hunks;
+    if (hunks.empty()) return hunks;
+    return "--- " + NameField(name) + "\n+++ " + NameField(name) + "\n" + hunks;
 }
 
 } // namespace zorvane

@@ -30,6 +30,8 @@ int Database::Open(const std::filesystem::path& path, bool create) {
 
 bool Database::IsReadOnly() const { return sqlite3_db_readonly(handle_, "main") != 0; }
 
+int Database::Changes() const { return sqlite3_total_changes(handle_); }
+
 int Database::Execute(const char* sql) {
     return sqlite3_exec(handle_, sql, nullptr, nullptr, nullptr);
 }

@@ -23,6 +23,8 @@ class Database {
     /// missing one. Other processes that hold it are waited for, up to a few seconds.
     int Open(const std::filesystem::path& path, bool create);
     bool IsReadOnly() const;
+    /// How many rows have been changed since it was opened.
+    int Changes() const;
     /// Runs statements that answer nothing.
     int Execute(const char* sql);
 

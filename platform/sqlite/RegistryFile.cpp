@@ -63,12 +63,22 @@ Long Recognise(Database& database) {
     std::int64_t application = 0;
     std::int64_t version = 0;
     std::int64_t tables = 0;
-    for (const auto& [sql, number] : {std::pair("PRAGMA application_id", &application),
-                                      std::pair("PRAGMA user_version", &version),
-                                      std::pair("SELECT count(*) FROM sqlite_master", &tables)}) {
+    std::int64_t own = 0;
+    std::int64_t active = 0;
+    for (const auto& [sql, number] :
+         {std::pair("PRAGMA application_id", &application),
+          std::pair("PRAGMA user_version", &version),
+          std::pair("SELECT count(*) FROM sqlite_master", &tables),
+          std::pair("SELECT count(*) FROM sqlite_master WHERE type = 'table'"
+                    " AND name IN ('keys', 'entries')",
+                    &own),
+          std::pair("SELECT count(*) FROM sqlite_master WHERE type IN ('view', 'trigger')",
+                    &active)}) {
         if (const Long result = AskNumber(database, sql, *number)) return result;
     }
-    if (application == kApplication && version == kVersion) return kRegistrySuccess;
+    // Views and triggers run whatever somebody wrote into them, and need not end.
+    const bool sound = own == 2 && active == 0;
+    if (application == kApplication && version == kVersion && sound) return kRegistrySuccess;
     return tables == 0 && application == 0 ? kRegistryNotFound : kRegistryCorrupt;
 }
 
@@ -97,13 +107,18 @@ Long Look(const fs::path& path) {
     return fs::is_regular_file(status) ? kRegistrySuccess : kRegistryAccessDenied;
 }
 
+constexpr fs::perms kReadableByAll =
+    fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read | fs::perms::others_read;
+constexpr fs::perms kOpenToAll =
+    kReadableByAll | fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
+
 /// Makes the missing folders: private to this user, as the desktop's rules require, or readable by
-/// everybody.
+/// everybody, whatever the user's own files are.
 void MakeFolders(const fs::path& folder, bool forEverybody) {
     if (folder.empty() || fs::is_directory(folder)) return;
     MakeFolders(folder.parent_path(), forEverybody);
-    if (fs::create_directory(folder) && !forEverybody)
-        fs::permissions(folder, fs::perms::owner_all);
+    if (fs::create_directory(folder))
+        fs::permissions(folder, forEverybody ? kOpenToAll : fs::perms::owner_all);
 }
 
 /// Runs what answers a result, and answers one for what is thrown as well.
@@ -140,16 +155,28 @@ Long RegistryFile::WhileReading(Reading reading) const {
 template <class Writing>
 Long RegistryFile::WhileWriting(Writing writing) const {
     return Guarded([&]() -> Long {
-        if (Look(path_) == kRegistryAccessDenied) return kRegistryAccessDenied;
+        const Long present = Look(path_);
+        if (present == kRegistryAccessDenied) return present;
         MakeFolders(path_.parent_path(), shared_);
         Database database;
         if (const int code = database.Open(path_, true)) return ResultOf(code);
         if (database.IsReadOnly()) return kRegistryAccessDenied;
         if (const int code = database.Execute(kBeginWriting)) return ResultOf(code);
+        if (shared_ && present == kRegistryNotFound) fs::permissions(path_, kReadableByAll);
         Long result = Recognise(database);
         if (result == kRegistryNotFound) result = ResultOf(database.Execute(kMakeTables));
         if (result == kRegistrySuccess) result = writing(database);
         return result == kRegistrySuccess ? ResultOf(database.Execute("COMMIT")) : result;
+    });
+}
+
+/// Writes what must change something: kRegistryNotFound, and nothing, where it does not.
+template <class Writing>
+Long RegistryFile::WhileChanging(Writing writing) const {
+    if (Look(path_) == kRegistryNotFound) return kRegistryNotFound;
+    return WhileWriting([&](Database& database) -> Long {
+        if (const Long result = writing(database)) return result;
+        return database.Changes() > 0 ? Long{kRegistrySuccess} : Long{kRegistryNotFound};
     });
 }
 
@@ -195,6 +222,34 @@ Long RegistryFile::Write(Long root, const String& path, const String& name, Long
                          " ON CONFLICT DO UPDATE SET type = excluded.type, data = excluded.data");
         insert.Bind(root).Bind(key).Bind(name).Bind(folded).Bind(type).Bind(data);
         return ResultOf(insert.Finish());
+    });
+}
+
+Long RegistryFile::DeleteValue(Long root, const String& path, const String& name) const {
+    return WhileChanging([&](Database& database) {
+        const String key = LowerText(path);
+        const String folded = LowerText(name);
+        Statement remove(database,
+                         "DELETE FROM entries WHERE folded = ?"
+                         " AND key = (SELECT id FROM keys WHERE root = ? AND folded = ?)");
+        return ResultOf(remove.Bind(folded).Bind(root).Bind(key).Finish());
+    });
+}
+
+Long RegistryFile::DeleteKey(Long root, const String& path) const {
+    return WhileChanging([&](Database& database) -> Long {
+        const String key = LowerText(path);
+        const String below = key + "\\";
+        const auto size = static_cast<std::int64_t>(below.size());
+        for (const char* const sql :
+             {"DELETE FROM entries WHERE key IN (SELECT id FROM keys WHERE root = ?"
+              " AND (folded = ? OR substr(folded, 1, ?) = ?))",
+              "DELETE FROM keys WHERE root = ? AND (folded = ? OR substr(folded, 1, ?) = ?)"}) {
+            Statement remove(database, sql);
+            remove.Bind(root).Bind(key).Bind(size).Bind(below);
+            if (const Long result = ResultOf(remove.Finish())) return result;
+        }
+        return kRegistrySuccess;
     });
 }
 

@@ -44,6 +44,10 @@ class RegistryFile {
     /// Writes a value; makes its key when that is missing.
     Long Write(Long root, const String& path, const String& name, Long type,
                std::string_view data) const;
+    /// Removes a value; kRegistryNotFound where there is none.
+    Long DeleteValue(Long root, const String& path, const String& name) const;
+    /// Removes a key with its values and the keys below it; kRegistryNotFound where there is none.
+    Long DeleteKey(Long root, const String& path) const;
     /// The values of a key in the order first written.
     Long List(Long root, const String& path, std::vector<StoredValue>& values) const;
     /// All keys in the order made.
@@ -54,6 +58,8 @@ class RegistryFile {
     Long WhileReading(Reading reading) const;
     template <class Writing>
     Long WhileWriting(Writing writing) const;
+    template <class Writing>
+    Long WhileChanging(Writing writing) const;
 
     std::filesystem::path path_;
     bool shared_;

@@ -162,6 +162,31 @@ Long SqliteRegistry::Values(Long root, const String& key, std::vector<StoredValu
     });
 }
 
+// The machine's file comes first: what may not be removed there would show again once the user's
+// own value is gone.
+template <class Deleting>
+Long SqliteRegistry::DeleteFromEach(Long root, Deleting deleting) const {
+    Long answer = kRegistryNotFound;
+    const auto files = FilesOf(root);
+    for (auto file = files.rbegin(); file != files.rend(); ++file) {
+        const Long result = deleting(**file);
+        if (result == kRegistryNotFound) continue;
+        answer = result;
+        if (result != kRegistrySuccess) break;
+    }
+    return answer;
+}
+
+Long SqliteRegistry::DeleteValue(Long root, const String& key, const String& name) const {
+    return DeleteFromEach(
+        root, [&](const RegistryFile& file) { return file.DeleteValue(root, key, name); });
+}
+
+Long SqliteRegistry::DeleteKey(Long root, const String& key) const {
+    return DeleteFromEach(root,
+                          [&](const RegistryFile& file) { return file.DeleteKey(root, key); });
+}
+
 SqliteRegistry::OpenedKey* SqliteRegistry::Opened(Handle key) {
     const auto found = handles_.find(key);
     return found == handles_.end() ? nullptr : &found->second;

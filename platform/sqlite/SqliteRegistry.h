@@ -36,6 +36,12 @@ class SqliteRegistry final : public Registry {
     /// The values of a key with their types, as they are enumerated.
     Long Values(Long root, const String& key, std::vector<StoredValue>& values) const;
 
+    /// Removes a value, or a key with all that is in it and below it, from every file that has it.
+    /// kRegistryNotFound where none has; kRegistryAccessDenied, and nothing is removed from that
+    /// file, for one that may not be written.
+    Long DeleteValue(Long root, const String& key, const String& name) const;
+    Long DeleteKey(Long root, const String& key) const;
+
     /// The files that a root's keys are read from, the one that counts first.
     std::vector<std::filesystem::path> Files(Long root) const;
 
@@ -53,6 +59,8 @@ class SqliteRegistry final : public Registry {
     Long FromEach(Long root, Reading reading) const;
     template <class Writing>
     Long WriteWherePossible(Long root, Writing writing) const;
+    template <class Deleting>
+    Long DeleteFromEach(Long root, Deleting deleting) const;
     OpenedKey* Opened(Handle key);
     Handle Remember(Long root, const String& path);
 

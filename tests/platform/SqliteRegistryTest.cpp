@@ -93,6 +93,19 @@ String ForeignBytes() {
     return file.Bytes();
 }
 
+/// A registry whose keys are a view without an end.
+String EndlessBytes() {
+    const TempFile file(RegistryBytes());
+    Database database;
+    EXPECT_EQ(database.Open(file.Path(), false), 0);
+    EXPECT_EQ(database.Execute(
+                  "ALTER TABLE keys RENAME TO others; CREATE VIEW keys AS WITH RECURSIVE e (id, "
+                  "root, path, folded) AS (SELECT id, root, path, folded FROM others UNION ALL "
+                  "SELECT id, root, path, folded FROM e) SELECT * FROM e"),
+              0);
+    return file.Bytes();
+}
+
 TEST(SqliteRegistry, LeavesFilesThatHoldSomethingElseAlone) {
     const String good = RegistryBytes();
     String later = good;
@@ -107,6 +120,7 @@ TEST(SqliteRegistry, LeavesFilesThatHoldSomethingElseAlone) {
                 {good.substr(0, 5000), kRegistryCorrupt},
                 {later, kRegistryCorrupt},
                 {ForeignBytes(), kRegistryCorrupt},
+                {EndlessBytes(), kRegistryCorrupt},
                 {"", kRegistrySuccess}};
     for (const auto& row : rows) {
         const String start =

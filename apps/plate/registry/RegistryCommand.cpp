@@ -1,5 +1,6 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
+#include "apps/plate/registry/RegistryImport.h"
 #include "apps/plate/registry/RegistryPath.h"
 #include "apps/plate/registry/RegistryText.h"
 #include "apps/plate/table/Table.h"
@@ -20,6 +21,8 @@ struct Options {
     String key;
     String name;
     std::optional<String> text;
+    std::optional<String> deletedName;
+    String file;
     std::optional<std::uint32_t> number;
     TableForm form = TableForm::Aligned;
 };
@@ -89,13 +92,6 @@ ExitCode Get(const Options& options) {
     return kDone;
 }
 
-String NumberBytes(std::uint32_t number) {
-    String bytes;
-    for (int shift = 0; shift < 32; shift += 8)
-        bytes += static_cast<char>(number >> shift & 0xFF);
-    return bytes;
-}
-
 ExitCode Set(const Options& options) {
     SqliteRegistry registry;
     const RegistryPath path = ParseRegistryPath(options.key);
@@ -107,26 +103,71 @@ ExitCode Set(const Options& options) {
     return kDone;
 }
 
-ExitCode List(const Options& options) {
-    SqliteRegistry registry;
-    Table table;
-    if (options.key.empty()) {
-        table.columns = {"key"};
-        for (const RegistryPath& path : AllKeys(registry))
-            table.rows.push_back({RegistryPathText(path)});
-    } else {
-        table.columns = {"name", "type", "data"};
-        for (const StoredValue& value : ValuesOf(registry, ParseRegistryPath(options.key)))
-            table.rows.push_back({value.name, TypeText(value.type), DataText(value)});
-    }
-    Print(TableText(table, options.form));
-    return kDone;
-}
-
 bool LiesIn(const RegistryPath& path, const RegistryPath& parent) {
     if (path.root != parent.root) return false;
     return parent.key.empty() || EqualNoCase(path.key, parent.key) ||
            StartsWithNoCase(path.key, parent.key + "\\");
+}
+
+Table KeyTable(const std::vector<RegistryPath>& paths) {
+    Table table{{"key"}, {}};
+    for (const RegistryPath& path : paths)
+        table.rows.push_back({RegistryPathText(path)});
+    return table;
+}
+
+std::vector<RegistryPath> KeysBelow(const SqliteRegistry& registry, const RegistryPath& parent) {
+    std::vector<RegistryPath> below;
+    for (const RegistryPath& path : AllKeys(registry))
+        if (LiesIn(path, parent) && !EqualNoCase(path.key, parent.key)) below.push_back(path);
+    return below;
+}
+
+/// The values of a key; of one that has none, the keys below it.
+Table ContentTable(SqliteRegistry& registry, const RegistryPath& path) {
+    const auto below = KeysBelow(registry, path);
+    // A root is no key of its own.
+    const bool root = path.key.empty() && !below.empty();
+    const auto values = root ? std::vector<StoredValue>() : ValuesOf(registry, path);
+    if (values.empty() && !below.empty()) return KeyTable(below);
+    Table table{{"name", "type", "data"}, {}};
+    for (const StoredValue& value : values)
+        table.rows.push_back({value.name, TypeText(value.type), DataText(value)});
+    return table;
+}
+
+ExitCode List(const Options& options) {
+    SqliteRegistry registry;
+    const Table table = options.key.empty()
+                            ? KeyTable(AllKeys(registry))
+                            : ContentTable(registry, ParseRegistryPath(options.key));
+    Print(TableText(table, options.form));
+    return kDone;
+}
+
+ExitCode Delete(const Options& options) {
+    const SqliteRegistry registry;
+    const RegistryPath path = ParseRegistryPath(options.key);
+    if (path.key.empty()) Fail(RegistryPathText(path) + ": a root cannot be deleted");
+    const Long result = options.deletedName
+                            ? registry.DeleteValue(path.root, path.key, *options.deletedName)
+                            : registry.DeleteKey(path.root, path.key);
+    Check(result, registry, path, options.deletedName.value_or(String()));
+    return kDone;
+}
+
+ExitCode Import(const Options& options) {
+    const String text = ReadFile(options.file);
+    const auto keys = WithFile(options.file, [&] { return ReadExportText(text); });
+    SqliteRegistry registry;
+    for (const ImportedKey& each : keys) {
+        const OpenKey key(registry, each.path, true);
+        for (const StoredValue& value : each.values) {
+            Check(registry.SetValue(key.Handle(), value.name, value.type, value.data), registry,
+                  each.path, value.name);
+        }
+    }
+    return kDone;
 }
 
 ExitCode Export(const Options& options) {
@@ -172,20 +213,35 @@ Command MakeRegistryCommand(CLI::App& app) {
         if (!options->text && !options->number) throw CLI::RequiredError("value or --dword");
     });
 
-    auto* const list = add("list", "List the values of a key, or all keys");
+    auto* const list =
+        add("list", "List the values of a key, or the keys below one that has no values");
     takeKey(*list, "ROOT\\KEY; all keys are listed without it");
     AddFormOptions(*list, options->form);
 
     auto* const write = add("export", "Write keys and values as text to read and compare");
     takeKey(*write, "ROOT\\KEY to begin at");
 
+    auto* const remove = add("delete", "Delete a value, or a key with everything below it");
+    takeKey(*remove, "ROOT\\KEY")->required();
+    remove->add_option("name", options->deletedName,
+                       "Name of the value; the key is deleted without it");
+
+    auto* const read = add("import", "Write the keys and values that \"export\" has written");
+    read->add_option("file", options->file, "File to read; \"-\" is standard input")->required();
+
     parser->footer("Tell every control on this machine where its plate library lies:\n"
                    "  plate registry set 'HKLM\\Software\\Brasquel\\Directories' GlobalDataDir "
-                   "/data/plates/");
+                   "/data/plates/\n"
+                   "Environment:\n"
+                   "  ZORVANE_REGISTRY  a file for the registry, in place of those of the user and "
+                   "of\n"
+                   "                    the machine");
     return {parser, [=] {
                 if (get->parsed()) return Get(*options);
                 if (set->parsed()) return Set(*options);
-                return list->parsed() ? List(*options) : Export(*options);
+                if (list->parsed()) return List(*options);
+                if (remove->parsed()) return Delete(*options);
+                return read->parsed() ? Import(*options) : Export(*options);
             }};
 }
 

@@ -108,6 +108,13 @@ String DataText(const StoredValue& value) {
     return IsNumber(value) ? std::to_string(Number(value)) : HexBytes(value.data);
 }
 
+String NumberBytes(std::uint32_t number) {
+    String bytes;
+    for (int shift = 0; shift < 32; shift += 8)
+        bytes += static_cast<char>(number >> shift & 0xFF);
+    return bytes;
+}
+
 String ExportText(const String& key, const std::vector<StoredValue>& values) {
     String text = "[" + OnALine(key) + "]\n";
     for (const StoredValue& value : values) {

@@ -2,6 +2,7 @@
 
 #include "platform/sqlite/RegistryFile.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace zorvane {
@@ -16,9 +17,12 @@ String TypeText(Long type);
 /// in hexadecimal.
 String DataText(const StoredValue& value);
 
-/// A key and its values for people to read and compare: the key in brackets, then a line for each
-/// value, whose data are a quoted text, the hexadecimal digits of a number or bytes. A text that
-/// does not fit a line is written as its bytes; the value without a name is "@".
+/// The data of a number of 32 bits, whose bytes come lowest first.
+String NumberBytes(std::uint32_t number);
+
+/// A key and its values for people to read and compare, and to import: the key in brackets, then a
+/// line for each value, whose data are a quoted text, the hexadecimal digits of a number or bytes.
+/// A text that does not fit a line is written as its bytes; the value without a name is "@".
 String ExportText(const String& key, const std::vector<StoredValue>& values);
 
 } // namespace zorvane

@@ -2,28 +2,40 @@
 
 #include "runtime/Text.h"
 
+#include <cstdint>
+
 namespace zorvane {
 
 namespace {
 
+/// Code units of UTF-16 in four digits.
+String Escaped(std::uint32_t unit) {
+    String text = "\\u";
+    for (int shift = 12; shift >= 0; shift -= 4)
+        text += "0123456789abcdef"[unit >> shift & 0xF];
+    return text;
+}
+
+/// A byte that is no UTF-8 becomes half of a pair of code units, from which Python and others make
+/// the byte again where the text is passed back to a program.
+constexpr std::uint32_t kByte = 0xDC00;
+
 String JsonString(std::string_view text) {
     String quoted = "\"";
-    for (const char c : PrintableUtf8(text)) {
-        // Of the control characters these three are left.
-        switch (c) {
-        case '\t':
-            quoted += "\\t";
-            break;
-        case '\n':
+    while (!text.empty()) {
+        const CharacterAt character = FirstCharacter(text);
+        const auto code = static_cast<std::uint32_t>(character.code);
+        if (!character.valid) {
+            quoted += Escaped(kByte + code);
+        } else if (code == '\n') {
             quoted += "\\n";
-            break;
-        case '\r':
-            quoted += "\\r";
-            break;
-        default:
-            if (c == '"' || c == '\\') quoted += '\\';
-            quoted += c;
+        } else if (code < 0x20 || code == 0x7F) {
+            quoted += Escaped(code);
+        } else {
+            if (code == '"' || code == '\\') quoted += '\\';
+            quoted += text.substr(0, character.bytes);
         }
+        text.remove_prefix(character.bytes);
     }
     return quoted + "\"";
 }

@@ -1,6 +1,7 @@
 #include "apps/plate/table/Table.h"
 
 #include "apps/plate/table/Csv.h"
+#include "apps/plate/table/DisplayWidth.h"
 #include "apps/plate/table/Json.h"
 #include "runtime/NumberText.h"
 #include "runtime/Text.h"
@@ -13,14 +14,19 @@ namespace {
 
 constexpr std::size_t kGap = 2;
 
+/// Whatever would move what stands after it is a blank.
+String OnALine(std::string_view text) {
+    String line = PrintableUtf8(text);
+    std::replace_if(line.begin(), line.end(), IsBlank, ' ');
+    return line;
+}
+
 String AlignedCell(const Cell& cell) {
-    if (const auto* const text = std::get_if<String>(&cell)) return PrintableUtf8(*text);
+    if (const auto* const text = std::get_if<String>(&cell)) return OnALine(*text);
     if (const auto* const number = std::get_if<std::int64_t>(&cell)) return std::to_string(*number);
     if (const auto* const number = std::get_if<NumberText>(&cell)) return number->digits;
     return FormatPicture(std::get<Single>(cell), "0.000");
 }
-
-std::size_t WidthOf(const String& text) { return static_cast<std::size_t>(CharacterCount(text)); }
 
 /// A cell on its way to the screen.
 struct Entry {
@@ -47,7 +53,7 @@ std::vector<Entries> AlignedCells(const Table& table) {
 String AlignedLine(const Entries& entries, const std::vector<std::size_t>& widths) {
     String line;
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        const String padding(widths[i] - WidthOf(entries[i].text), ' ');
+        const String padding(widths[i] - DisplayWidth(entries[i].text), ' ');
         if (i > 0) line.append(kGap, ' ');
         line += entries[i].right ? padding + entries[i].text : entries[i].text + padding;
     }
@@ -60,7 +66,7 @@ String AlignedText(const Table& table) {
     std::vector<std::size_t> widths(table.columns.size());
     for (const Entries& line : lines) {
         for (std::size_t i = 0; i < line.size(); ++i)
-            widths[i] = std::max(widths[i], WidthOf(line[i].text));
+            widths[i] = std::max(widths[i], DisplayWidth(line[i].text));
     }
     String text;
     for (const Entries& line : lines)
