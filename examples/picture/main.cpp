@@ -1,10 +1,13 @@
-// Prints where the positions of a plate are and writes a picture of it.
+// Prints where the positions of a plate are, also on the stage of an instrument, and writes a
+// picture of it.
 //
 //   plate_picture LIBRARY PLATE PICTURE.svg
 
+#include <calibration/StageCalibration.h>
 #include <drawing/PlatePicture.h>
 #include <runtime/RuntimeError.h>
 
+#include <cmath>
 #include <fstream>
 #include <iostream>
 
@@ -24,12 +27,17 @@ void WritePicture(const std::string& library, const std::string& plate, const st
 void PrintPlaces(const std::string& library, const std::string& name) {
     zorvane::PlatePicture picture({.plate = name, .fileName = library});
     const zorvane::Plate& plate = picture.Control();
+    // Two points of the plate in millimetres, and where the instrument found them.
+    const zorvane::StageCalibration calibration(
+        {{{18.88, 15.74}, {1200, 500}}, {{108.88, 15.74}, {10200, 500}}});
     for (zorvane::Integer row = 0; row < plate.Rows; ++row) {
         for (zorvane::Integer col = 0; col < plate.Cols; ++col) {
             float x = 0, y = 0, z = 0;
             plate.WellCentroid(x, y, z, row, col);
+            const zorvane::PlanePoint stage = calibration.ToStage({x, y});
             std::cout << plate.LoadedDefinition().WellLegend(row, col) << ": " << x << ", " << y
-                      << " mm\n";
+                      << " mm, on the stage " << std::round(stage.x) << ", " << std::round(stage.y)
+                      << '\n';
         }
     }
 }
