@@ -37,7 +37,6 @@ Long SubWellPosition(const cmPlate& plate, const String& name) {
 Long ChosenSubWell(const cmPlate& plate, const Options& options) {
     if (!options.subWell.empty()) return SubWellPosition(plate, options.subWell);
     const Long count = plate.CompoundWell()->Count();
-    if (count == 0) Fail("the plate has no sub-well");
     if (count > 1) {
         Fail("a labware has one well at each position, and this plate has " +
              std::to_string(count) + " sub-wells: choose --sub-well or --each-sub-well");
@@ -73,6 +72,7 @@ void ExportWells(const cmPlate& plate, const Options& options) {
 ExitCode Run(const Options& options) {
     const cmPlate plate = ReadPlate(options.plateLibrary, options.plate);
     WithFile(options.plate, [&] {
+        if (plate.CompoundWell()->Count() == 0) Fail("the plate has no sub-well");
         options.format == "csv" ? ExportWells(plate, options) : ExportLabware(plate, options);
     });
     return kDone;
