@@ -42,7 +42,7 @@ bool PlateSession::Open(const QString& library, const QString& plateName) {
     bool loaded = false;
     Edit([&] {
         KeepWells();
-        loaded = Control().SetPlate(plateName.toStdString(), library.toStdString());
+        loaded = widget_.load(plateName, library);
         if (loaded) library_ = library;
         BringWellsBack();
     });

@@ -314,8 +314,9 @@ class ZORVANE_EXPORT PlateWidget : public QWidget {
     void setVerticalCentred(bool on);
     void resetVerticalCentred();
 
-    /// Whether a plate of fixed size is fitted to the widget whenever that is resized. Off at
-    /// first: the control takes a new size into account only at its next layout. Waits while edits
+    /// Whether a plate of fixed size is fitted to the widget whenever that is resized or shows
+    /// another plate. Off at first: the control takes a new size into account only at its next
+    /// layout, and a new plate at that after the next. Waits while edits
     /// in the details panel are not applied, because a layout drops them.
     bool refitOnResize() const;
     void setRefitOnResize(bool on);

@@ -1,5 +1,6 @@
 #include "hosts/qt/widget/PlateSizing.h"
 
+#include "control/PlateTypes.h"
 #include "hosts/qt/PlateWidget.h"
 #include "hosts/qt/Units.h"
 #include "hosts/qt/panel/PanelMirror.h"
@@ -47,6 +48,7 @@ PlateSizing::PlateSizing(PlateWidget& widget, Plate& plate, PanelMirror& panel, 
     : widget_(widget), plate_(plate), panel_(panel), steps_(steps) {}
 
 void PlateSizing::Take(QSize size) {
+    if (loading_) return; // the size of no plate that will be shown
     const bool open = plate_.DataVisible();
     // Apart, the panel takes no room here; each layout asks for the plate's size once it is closed.
     if (panel_.Place().Detached() && (open || plate_.FixedSize)) return;
@@ -79,6 +81,15 @@ void PlateSizing::RefitOnResize(bool on) {
 void PlateSizing::Resized() {
     panel_.Sync();
     Refit();
+}
+
+void PlateSizing::AboutToLoad() {
+    if (!refitOnResize_ || !plate_.FixedSize || plate_.DrawingScale() <= kDefaultScale) return;
+    loading_ = true;
+    plate_.FixedSize = false;
+    steps_.Run([this] { plate_.DrawingScale(kDefaultScale); });
+    plate_.FixedSize = true;
+    loading_ = false;
 }
 
 void PlateSizing::LayOut() {

@@ -29,6 +29,11 @@ class PlateSizing final {
     void RefitOnResize(bool on);
     /// The widget has another size.
     void Resized();
+    /// Another plate, or another definition of it, is shown.
+    void PlateChanged() { Refit(); }
+    /// A plate is about to be loaded. One that will be fitted is laid out first at the scale of the
+    /// plate before, which may have been so small that this one is too large at that scale.
+    void AboutToLoad();
 
     /// Lays the plate out with its present settings.
     void LayOut();
@@ -44,6 +49,7 @@ class PlateSizing final {
     QSize closed_{asked_}; ///< asked for with the panel closed
     bool refitOnResize_ = false;
     bool refitting_ = false;
+    bool loading_ = false;
 };
 
 } // namespace zorvane

@@ -18,6 +18,7 @@ PlateWidget::Parts::Parts(PlateWidget& owner)
         observer.TellProperties();
     });
     connect(&panel, &PanelMirror::changed, &widget, &PlateWidget::panelChanged);
+    connect(&widget, &PlateWidget::plateChanged, &dataButton, [this] { sizing.PlateChanged(); });
     connect(&dataButton, &QPushButton::clicked, &dataButton,
             [this] { steps.Run([this] { plate.DataButtonPressed(); }); });
     connect(&panel.Place(), &PanelPlace::moved, &dataButton, [this] { ShowDataButton(); });
@@ -46,6 +47,7 @@ void PlateWidget::Parts::ConnectSite() {
 bool PlateWidget::Parts::Load(const std::function<bool()>& step, QString* why) {
     const QPointer<PlateWidget> shown(&widget); // a slot may destroy it
     bool loaded = false;
+    sizing.AboutToLoad();
     if (why || widget.ReportsFailures()) {
         const auto failure = QuietLoad::Run(step);
         loaded = !failure;

@@ -172,6 +172,34 @@ TEST(Embedding, MessagesGoToTheHostThatAsksForThem) {
               QStringList("Zorvane: Error trying to read \"missing\" from </no/such/library>"));
 }
 
+TEST(Embedding, EachPlateIsFittedWhateverWasShownBefore) {
+    const TestProcess process;
+    const TempFolder folder;
+    String library;
+    for (const auto& [name, width, height] : {std::tuple{"Chip", "3", "2"},
+                                              {"Plate", "127.76", "85.48"},
+                                              {"Portrait", "85.48", "200"}}) {
+        library += String("PLATE ") + name +
+                   "\r\nROWS 1\r\nCOLS 1\r\nXPITCH 1\r\nYPITCH 1\r\nXOVERALL " + width +
+                   "\r\nYOVERALL " + height + "\r\nWELL Drop\r\nXOFFSET 1\r\nYOFFSET 1\r\n";
+    }
+    folder.Put("Plates.Dat", library);
+    const QString file = QString::fromStdString(folder.File("Plates.Dat"));
+    PlateWidget widget;
+    widget.resize(600, 300);
+    widget.setRefitOnResize(true);
+    widget.show();
+    for (const char* const name :
+         {"Plate", "Chip", "Plate", "Portrait", "Chip", "Portrait", "Plate"}) {
+        QString why;
+        ASSERT_TRUE(widget.load(name, file, &why)) << why.toStdString();
+        const Rect& frame = widget.plate().Elements().fraPlate.box;
+        const Single ratio = widget.plate().xOverall / widget.plate().yOverall;
+        EXPECT_NEAR(frame.width / frame.height, ratio, 0.2 * ratio) << name;
+        EXPECT_NEAR(std::max(frame.width / 9000, frame.height / 4500), 1, 0.1) << name;
+    }
+}
+
 TEST(Embedding, ASlotMayDestroyTheWidgetInTheMiddleOfAGesture) {
     const char* const signalNames[] = {
         SIGNAL(mousePressed(int, int, float, float)),
