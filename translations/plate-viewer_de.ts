@@ -564,6 +564,10 @@ Die Platte hat die Spalten 0 bis %3 und die Zeilen 0 bis %4. Nichts wurde gefül
         <source>%1 cannot be opened: %2.</source>
         <translation>%1 kann nicht geöffnet werden: %2.</translation>
     </message>
+    <message>
+        <source>There is no plate in %1.</source>
+        <translation>In %1 steht keine Platte.</translation>
+    </message>
 </context>
 <context>
     <name>zorvane::viewer::LibraryPanel</name>
@@ -578,14 +582,6 @@ Die Platte hat die Spalten 0 bis %3 und die Zeilen 0 bis %4. Nichts wurde gefül
     <message>
         <source>Plates of the library</source>
         <translation>Platten der Bibliothek</translation>
-    </message>
-    <message>
-        <source>There is no plate in this file.</source>
-        <translation>In dieser Datei steht keine Platte.</translation>
-    </message>
-    <message>
-        <source>Line %1</source>
-        <translation>Zeile %1</translation>
     </message>
     <message>
         <source>Line %1: cannot be opened, as a plate before it has the same name</source>
@@ -612,6 +608,23 @@ Die Platte hat die Spalten 0 bis %3 und die Zeilen 0 bis %4. Nichts wurde gefül
         <translation>
             <numerusform>%1 × %2 · %n Teilkavität</numerusform>
             <numerusform>%1 × %2 · %n Teilkavitäten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1
+Line %2</source>
+        <translation>%1
+Zeile %2</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n plates</source>
+        <translation>
+            <numerusform>%1 von %n Platte</numerusform>
+            <numerusform>%1 von %n Platten</numerusform>
         </translation>
     </message>
 </context>
@@ -700,6 +713,10 @@ Die Platte hat die Spalten 0 bis %3 und die Zeilen 0 bis %4. Nichts wurde gefül
     <message>
         <source>&lt;h3&gt;Plate Viewer %1&lt;/h3&gt;&lt;p&gt;Shows the plates of a library, and the data of their wells.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Plate Viewer %1&lt;/h3&gt;&lt;p&gt;Zeigt die Platten einer Bibliothek und die Daten ihrer Kavitäten.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Find Plate</source>
+        <translation>Platte &amp;suchen</translation>
     </message>
 </context>
 <context>
@@ -919,10 +936,6 @@ Nichts wurde geändert.</translation>
         <translation>Für diese Kavität ist eine Lösung definiert</translation>
     </message>
     <message>
-        <source>&amp;Volume</source>
-        <translation>&amp;Volumen</translation>
-    </message>
-    <message>
         <source> µl</source>
         <translation> µl</translation>
     </message>
@@ -933,10 +946,6 @@ Nichts wurde geändert.</translation>
     <message>
         <source>Shown as the tooltip of the well</source>
         <translation>Erscheint als Tooltip der Kavität</translation>
-    </message>
-    <message>
-        <source>&amp;Error code</source>
-        <translation>&amp;Fehlercode</translation>
     </message>
     <message>
         <source>A&amp;nnotation</source>
@@ -989,6 +998,14 @@ Nichts wurde geändert.</translation>
     <message>
         <source>%1 mm</source>
         <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Vo&amp;lume</source>
+        <translation>Vo&amp;lumen</translation>
+    </message>
+    <message>
+        <source>Error &amp;code</source>
+        <translation>Fehler&amp;code</translation>
     </message>
 </context>
 </TS>

@@ -5,6 +5,7 @@
 #include "apps/viewer/widgets/Notice.h"
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalBlocker>
@@ -13,26 +14,6 @@
 namespace zorvane::viewer {
 
 namespace {
-
-/// Why a listing ends before its file does; empty when it does not.
-QString StopText(const LibraryListing& library) {
-    const Long line = library.stoppedAtLine;
-    if (line == 0) return {};
-    switch (library.code) {
-    case kStoppedAtStrayLine:
-        return LibraryPanel::tr("Reading stops at line %1, which is not part of a plate and hides "
-                                "the plates after it.")
-            .arg(line);
-    case kStoppedAtFailedLine:
-        return LibraryPanel::tr("Reading stops at line %1, which cannot be read and hides the "
-                                "plates after it.")
-            .arg(line);
-    default: // kStoppedAtInclude
-        return LibraryPanel::tr("Reading stops at line %1: INCLUDE is not followed, and hides the "
-                                "plates after it.")
-            .arg(line);
-    }
-}
 
 /// The numbers of rows, columns and sub-wells.
 QString DetailsOf(const LibraryEntry& plate) {
@@ -45,7 +26,8 @@ QString DetailsOf(const LibraryEntry& plate) {
 } // namespace
 
 LibraryPanel::LibraryPanel(QWidget* parent)
-    : QWidget(parent), filter_(new QLineEdit), list_(new QListWidget), notice_(new Notice) {
+    : QWidget(parent), filter_(new QLineEdit), found_(new QLabel), list_(new QListWidget),
+      notice_(new Notice) {
     filter_->setPlaceholderText(tr("Filter by name or tag"));
     filter_->setClearButtonEnabled(true);
     filter_->setAccessibleName(tr("Filter plates by name or tag"));
@@ -64,9 +46,31 @@ LibraryPanel::LibraryPanel(QWidget* parent)
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(filter_);
+    layout->addWidget(found_);
+    found_->setObjectName(QStringLiteral("found"));
+    found_->hide();
     layout->addWidget(list_, 1);
     layout->addWidget(notice_);
     setFocusProxy(filter_);
+}
+
+QString LibraryPanel::StopText(const LibraryListing& library) {
+    const Long line = library.stoppedAtLine;
+    if (line == 0) return {};
+    switch (library.code) {
+    case kStoppedAtStrayLine:
+        return tr("Reading stops at line %1, which is not part of a plate and hides "
+                  "the plates after it.")
+            .arg(line);
+    case kStoppedAtFailedLine:
+        return tr("Reading stops at line %1, which cannot be read and hides the "
+                  "plates after it.")
+            .arg(line);
+    default: // kStoppedAtInclude
+        return tr("Reading stops at line %1: INCLUDE is not followed, and hides the "
+                  "plates after it.")
+            .arg(line);
+    }
 }
 
 void LibraryPanel::Show(const LibraryListing& library) {
@@ -76,16 +80,14 @@ void LibraryPanel::Show(const LibraryListing& library) {
     list_->clear();
     for (const LibraryEntry& plate : library.plates)
         AddPlate(plate);
-    const QString stop = StopText(library);
-    const bool none = library.plates.empty() && stop.isEmpty();
-    notice_->Show(none ? tr("There is no plate in this file.") : stop);
+    notice_->Show(StopText(library));
 }
 
 void LibraryPanel::AddPlate(const LibraryEntry& plate) {
     auto* item = new QListWidgetItem(QString::fromStdString(plate.name), list_);
     item->setData(PlateItemDelegate::kDetails, DetailsOf(plate));
     item->setData(PlateItemDelegate::kTags, QString::fromStdString(plate.tags));
-    item->setToolTip(tr("Line %1").arg(plate.line));
+    item->setToolTip(tr("%1\nLine %2").arg(item->text()).arg(plate.line));
     if (plate.found) return;
     item->setFlags(Qt::NoItemFlags);
     item->setToolTip(
@@ -109,11 +111,21 @@ void LibraryPanel::SetChosen(const QString& name) {
 
 void LibraryPanel::Filter() {
     const std::string typed = filter_->text().toStdString();
+    int found = 0;
     for (int row = 0; row < list_->count(); ++row) {
         const LibraryEntry& plate = library_.plates[static_cast<std::size_t>(row)];
-        list_->item(row)->setHidden(!MatchesFilter(plate, typed));
+        const bool matches = MatchesFilter(plate, typed);
+        list_->item(row)->setHidden(!matches);
+        if (matches) ++found;
     }
+    ShowCount(found);
     if (list_->currentItem()) list_->scrollToItem(list_->currentItem());
+}
+
+void LibraryPanel::ShowCount(int found) {
+    found_->setText(found == 0 ? tr("Nothing found")
+                               : tr("%1 of %n plates", nullptr, list_->count()).arg(found));
+    found_->setVisible(!filter_->text().isEmpty());
 }
 
 void LibraryPanel::Step(int by) {
@@ -138,6 +150,10 @@ bool LibraryPanel::eventFilter(QObject* watched, QEvent* event) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Up || key == Qt::Key_Down) {
             Step(key == Qt::Key_Up ? -1 : 1);
+            return true;
+        }
+        if (key == Qt::Key_Escape && !filter_->text().isEmpty()) {
+            filter_->clear();
             return true;
         }
     }

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QLineEdit;
 class QListWidget;
 
@@ -17,6 +18,9 @@ class LibraryPanel final : public QWidget {
 
   public:
     explicit LibraryPanel(QWidget* parent = nullptr);
+
+    /// Why a listing ends before its file does; empty when it does not.
+    static QString StopText(const LibraryListing& library);
 
     /// Lists the plates of a library, none of them chosen.
     void Show(const LibraryListing& library);
@@ -38,6 +42,7 @@ class LibraryPanel final : public QWidget {
   private:
     void AddPlate(const LibraryEntry& plate);
     void Filter();
+    void ShowCount(int found);
     /// Chooses the next plate that is shown, upwards or downwards.
     void Step(int by);
     /// Chooses the plate found where the present one is filtered out.
@@ -45,6 +50,7 @@ class LibraryPanel final : public QWidget {
 
     LibraryListing library_;
     QLineEdit* filter_;
+    QLabel* found_;
     QListWidget* list_;
     Notice* notice_;
 };

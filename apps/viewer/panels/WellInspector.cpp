@@ -80,7 +80,7 @@ void WellInspector::AddDataFields(QFormLayout& form) {
     form.addRow(tr("S&ub-well"), subWell_ = new QComboBox);
     form.addRow(QString(), defined_ = new QCheckBox(tr("&Defined")));
     defined_->setToolTip(tr("A solution has been defined for this well"));
-    form.addRow(tr("&Volume"), volume_ = new QDoubleSpinBox);
+    form.addRow(tr("Vo&lume"), volume_ = new QDoubleSpinBox);
     volume_->setRange(-kMostVolume, kMostVolume);
     volume_->setDecimals(3);
     volume_->setSuffix(tr(" µl"));
@@ -88,7 +88,7 @@ void WellInspector::AddDataFields(QFormLayout& form) {
     volume_->setKeyboardTracking(false);
     form.addRow(tr("&Text"), text_ = new QLineEdit);
     text_->setToolTip(tr("Shown as the tooltip of the well"));
-    form.addRow(tr("&Error code"), errorCode_ = new QSpinBox);
+    form.addRow(tr("Error &code"), errorCode_ = new QSpinBox);
     using Limits = std::numeric_limits<Integer>;
     errorCode_->setRange(Limits::min(), Limits::max());
     errorCode_->setKeyboardTracking(false);

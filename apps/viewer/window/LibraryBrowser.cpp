@@ -6,6 +6,7 @@
 #include "apps/viewer/panels/LibraryPanel.h"
 #include "apps/viewer/texts/ErrorText.h"
 
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -22,11 +23,17 @@ bool LibraryBrowser::Open(const QString& file) {
     if (!editing_.MayLeave()) return false;
     const auto listing = Read(file);
     if (!listing) return false;
+    const int first = FirstPlate(*listing);
+    if (first < 0) {
+        const QString reason = tr("There is no plate in %1.").arg(QFileInfo(file).fileName());
+        emit failed((reason + '\n' + LibraryPanel::StopText(*listing)).trimmed());
+        return false;
+    }
     editing_.Stop();
     file_ = file;
     panel_.Show(*listing);
     emit opened(file);
-    panel_.Choose(FirstPlate(*listing));
+    panel_.Choose(first);
     return true;
 }
 
@@ -35,6 +42,14 @@ void LibraryBrowser::AskAndOpen() {
         QFileDialog::getOpenFileName(&window_, tr("Open Plate Library"), QFileInfo(file_).path(),
                                      tr("Plate libraries (*.dat *.Dat *.DAT);;All files (*)"));
     if (!file.isEmpty()) Open(file);
+}
+
+void LibraryBrowser::FindPlate() {
+    if (auto* const dock = qobject_cast<QDockWidget*>(panel_.parentWidget())) {
+        dock->show();
+        dock->raise();
+    }
+    panel_.setFocus(Qt::ShortcutFocusReason);
 }
 
 void LibraryBrowser::SwitchEditing(bool on) {

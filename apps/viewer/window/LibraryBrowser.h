@@ -25,10 +25,12 @@ class LibraryBrowser final : public QObject {
     /// The library that is open; empty before the first one.
     const QString& File() const { return file_; }
     /// Opens a library and shows one of its plates. Emits failed(), and keeps what was open, when
-    /// the file cannot be read. Returns whether the library is open.
+    /// the file cannot be read or has no plate. Returns whether the library is open.
     bool Open(const QString& file);
     /// Lets the operator choose the library to open.
     void AskAndOpen();
+    /// Leads to the filter of the plates, wherever its panel is.
+    void FindPlate();
     /// Begins or ends editing the plate that is shown. Unsaved edits may keep it from ending.
     void SwitchEditing(bool on);
 

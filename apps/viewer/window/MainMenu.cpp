@@ -42,6 +42,8 @@ void MainMenu::AddFileMenu(LibraryBrowser& library, WellDataFiles& data) {
     menu.addMenu(recent);
     connect(recent, &RecentFiles::chosen, &library, &LibraryBrowser::Open);
     connect(&library, &LibraryBrowser::opened, recent, &RecentFiles::Add);
+    menu.addAction(Icon("edit-find"), tr("&Find Plate"), QKeySequence::Find, &library,
+                   &LibraryBrowser::FindPlate);
     menu.addSeparator();
     QAction* import =
         menu.addAction(Icon("document-import"), tr("&Import Well Data…"),
@@ -70,13 +72,16 @@ void MainMenu::AddEditMenu(LibraryBrowser& library, EditMode& editing) {
 
 void MainMenu::AddWellsMenu() {
     QMenu& menu = *window_.menuBar()->addMenu(tr("&Wells"));
-    QAction* fill =
-        menu.addAction(Icon("fill-color"), tr("&Fill Block…"), QKeyCombination(Qt::CTRL, Qt::Key_F),
-                       this, &MainMenu::ShowFillDialog);
+    QAction* fill = menu.addAction(Icon("fill-color"), tr("&Fill Block…"),
+                                   QKeyCombination({Qt::CTRL, Qt::SHIFT}, Qt::Key_F), this,
+                                   &MainMenu::ShowFillDialog);
     fill->setIconText(tr("Fill Block"));
     needWells_->addAction(fill);
-    needWells_->addAction(menu.addAction(tr("&Clear Selected Wells"), QKeySequence::Delete,
-                                         &session_, &PlateSession::ClearSelectedWells));
+    QAction* clear = menu.addAction(tr("&Clear Selected Wells"), QKeySequence::Delete, &session_,
+                                    &PlateSession::ClearSelectedWells);
+    clear->setShortcutContext(Qt::WidgetShortcut); // elsewhere the key means something else
+    session_.Widget().addAction(clear);
+    needWells_->addAction(clear);
     needWells_->addAction(menu.addAction(tr("&Deselect All"),
                                          QKeyCombination({Qt::CTRL, Qt::SHIFT}, Qt::Key_A),
                                          &session_, &PlateSession::Deselect));

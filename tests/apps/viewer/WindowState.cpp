@@ -55,6 +55,8 @@ QString TextOf(const WellSnapshot& well) {
 void AddNotices(Shown& shown, const QWidget& panel) {
     for (const auto* notice : panel.findChildren<Notice*>())
         if (!notice->isHidden()) shown["notice"] += notice->Text();
+    for (const auto* label : panel.findChildren<QLabel*>("found"))
+        if (!label->isHidden()) shown["found"] = label->text();
 }
 
 void AddWells(Shown& shown, PlateSession& session) {

@@ -141,6 +141,7 @@ class Operator {
     /// "FIELD: KEY KEY": keys that the operator presses in a field.
     void Type(const QString& typed) {
         QWidget& field = Find<QWidget>(window_, typed.section(": ", 0, 0));
+        field.setFocus();
         for (const QString& key : typed.section(": ", 1).split(' '))
             QTest::keySequence(&field, QKeySequence(key));
     }
