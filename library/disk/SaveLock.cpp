@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <thread>
 
 #include <fcntl.h>
@@ -13,6 +14,25 @@ namespace zorvane {
 namespace {
 
 constexpr mode_t kAnybody = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+
+/// Keeps back the signals that end a program. What makes or removes the lock file and notes that it
+/// did must not be torn apart: the file would stay, or that of another program go.
+class HeldSignals {
+  public:
+    HeldSignals() {
+        sigset_t held = {};
+        ::sigemptyset(&held);
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+            ::sigaddset(&held, signal);
+        ::pthread_sigmask(SIG_BLOCK, &held, &before_);
+    }
+    ~HeldSignals() { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+    HeldSignals(const HeldSignals&) = delete;
+    HeldSignals& operator=(const HeldSignals&) = delete;
+
+  private:
+    sigset_t before_ = {};
+};
 
 /// The lock file: made, or opened where it is there; below 0 when it has just gone.
 int OpenLockFile(const char* path, bool& made) {
@@ -45,11 +65,16 @@ SaveLock::SaveLock(const String& path) : path_(TemporaryName(path, "lock")) {
         }
         std::this_thread::sleep_for(2ms);
     }
-    file_ = std::make_unique<TemporaryFile>(path_);
     SweepTemporaries(path);
 }
 
+SaveLock::~SaveLock() {
+    const HeldSignals held;
+    file_.reset();
+}
+
 bool SaveLock::TryLock() {
+    const HeldSignals held;
     bool made = false;
     const int number = OpenLockFile(path_.c_str(), made);
     if (number < 0) return false;
@@ -58,6 +83,7 @@ bool SaveLock::TryLock() {
     const bool noLocks = !locked && errno != EWOULDBLOCK && errno != EINTR;
     if (locked ? !IsStillThere(number, path_.c_str()) : !(noLocks && made)) return false;
     held_ = std::move(file);
+    file_ = std::make_unique<TemporaryFile>(path_);
     return true;
 }
 

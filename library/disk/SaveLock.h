@@ -15,6 +15,7 @@ class SaveLock {
   public:
     /// Waits some ten seconds for another holder, then raises 75.
     explicit SaveLock(const String& path);
+    ~SaveLock();
     SaveLock(const SaveLock&) = delete;
     SaveLock& operator=(const SaveLock&) = delete;
 

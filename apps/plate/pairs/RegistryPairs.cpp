@@ -2,6 +2,7 @@
 
 #include "apps/plate/Files.h"
 #include "apps/plate/pairs/SavedPairs.h"
+#include "platform/Process.h"
 #include "runtime/NumberText.h"
 #include "support/RegistryFunctions.h"
 
@@ -18,10 +19,25 @@ String CountText(const RegistryPath& path) {
     return GetSettingEx(path.root, path.key, "Count", "", type);
 }
 
+/// Takes the message of the control's own functions, which show it in a box.
+struct KeptMessage final : MessageDisplay {
+    void Show(const Message& message) override { text = message.prompt; }
+
+    /// Whether it says more than that there is no such key.
+    bool IsFailure() const {
+        return !text.empty() && !text.ends_with("=" + std::to_string(kRegistryNotFound));
+    }
+
+    String text;
+};
+
 void Read(TStringPairList& list, const RegistryPath& path) {
+    KeptMessage message;
+    const TakenMessages taken(message);
     try {
         list.ReadFromRegistry(path.root, path.key);
     } catch (const RuntimeError& error) {
+        if (message.IsFailure()) Fail(RegistryPathText(path) + ": " + message.text);
         const bool none = error.Number() == static_cast<Long>(ErrorNumber::SubscriptOutOfRange);
         Fail(RegistryPathText(path) +
              (none ? ": holds no pairs" : ": its Count is not the number of its pairs"));
