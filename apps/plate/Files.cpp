@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <utility>
 
 namespace zorvane {
 
@@ -36,8 +37,14 @@ String ReadStream(std::istream& in) {
     return bytes;
 }
 
+String ReadStandardInput() {
+    static bool read = false;
+    if (std::exchange(read, true)) Fail("its content is needed twice");
+    return ReadStream(std::cin);
+}
+
 String ReadAny(const String& file) {
-    if (IsStandard(file)) return ReadStream(std::cin);
+    if (IsStandard(file)) return ReadStandardInput();
     if (!IsDevice(file)) return DiskFiles().Read(file);
     std::ifstream device(file, std::ios::binary);
     if (!device) Fail("there is no permission");

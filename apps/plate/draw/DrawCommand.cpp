@@ -4,6 +4,7 @@
 #include "apps/plate/draw/ShownWellData.h"
 #include "control/WellNames.h"
 #include "drawing/PlatePicture.h"
+#include "platform/Process.h"
 #include "runtime/NumberText.h"
 
 #include <cstdio>
@@ -55,6 +56,16 @@ String CheckScale(const String& text) {
     return "\"" + text + "\" is not a number greater than 0";
 }
 
+/// Loads a plate without the message that the control has for a person in front of it.
+bool SetQuietly(Plate& plate, const String& name, const String& library) {
+    struct NoMessages final : MessageDisplay {
+        void Show(const Message& /*message*/) override {}
+    };
+    NoMessages none;
+    const TakenMessages taken(none);
+    return plate.SetPlate(name, library);
+}
+
 /// One picture in the making.
 class Drawing {
   public:
@@ -62,11 +73,12 @@ class Drawing {
 
     void Load() {
         const LibraryText library = ReadLibrary(options_.plateLibrary);
-        WithFile(options_.plateLibrary, [&] { library.Get(options_.plate); });
         const LibraryFile file(options_.plateLibrary, library.Bytes());
         Plate& plate = picture_.Control();
-        if (!plate.SetPlate(options_.plate, file.Path()))
+        if (!SetQuietly(plate, options_.plate, file.Path())) {
+            WithFile(options_.plateLibrary, [&] { library.Get(options_.plate); });
             Fail(ShownName(options_.plateLibrary) + " has changed meanwhile");
+        }
         if (!options_.data.empty()) keyHeight_ = ShownWellData::KeyHeight(plate);
         if (const std::optional<Size> size = ParseSize(options_.size)) FitInto(*size);
     }
@@ -124,13 +136,13 @@ void CheckOutput(const Options& options) {
 }
 
 ExitCode Run(const Options& options) {
-    if (IsStandard(options.plateLibrary) && IsStandard(options.data))
-        Fail("the library and the data cannot both come from standard input");
     CheckOutput(options);
     Drawing drawing(options);
     try {
         drawing.Load();
     } catch (const RuntimeError& error) {
+        if (error.Is(ErrorNumber::InvalidProcedureCall))
+            Fail(options.plate + PlateFailureText(error));
         if (!error.Is(ErrorNumber::Overflow)) throw;
         Fail(options.plate +
              " is too large to be drawn: choose a smaller scale, or check the library");

@@ -1,14 +1,11 @@
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
 #include "apps/plate/registry/RegistryImport.h"
-#include "apps/plate/registry/RegistryPath.h"
+#include "apps/plate/registry/RegistryKeys.h"
 #include "apps/plate/registry/RegistryText.h"
 #include "apps/plate/table/Table.h"
-#include "platform/sqlite/SqliteRegistry.h"
-#include "runtime/Text.h"
 
 #include <cstdint>
-#include <filesystem>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -27,67 +24,14 @@ struct Options {
     TableForm form = TableForm::Aligned;
 };
 
-/// Where a root's keys are kept, for the user to look at.
-String PlacesText(const SqliteRegistry& registry, Long root) {
-    String text;
-    for (const std::filesystem::path& file : registry.Files(root))
-        text += (text.empty() ? " (" : ", ") + file.string();
-    return text.empty() ? " (no HOME or ZORVANE_REGISTRY says where its file is)" : text + ")";
-}
-
-/// Fails with what a result means, naming what was asked for.
-void Check(Long result, const SqliteRegistry& registry, const RegistryPath& path,
-           const String& name = {}) {
-    if (result == kRegistrySuccess) return;
-    const String what = RegistryPathText(path) + (name.empty() ? "" : ", " + name);
-    Fail(what + ": " + RegistryResultText(result) +
-         (result == kRegistryNotFound ? "" : PlacesText(registry, path.root)));
-}
-
-/// A key that is closed when it goes.
-class OpenKey {
-  public:
-    OpenKey(SqliteRegistry& registry, const RegistryPath& path, bool make) : registry_(registry) {
-        const Long result = make ? registry.CreateKey(path.root, path.key, kAllAccess, handle_)
-                                 : registry.OpenKey(path.root, path.key, kReadAccess, handle_);
-        Check(result, registry, path);
-    }
-    ~OpenKey() { registry_.CloseKey(handle_); }
-    OpenKey(const OpenKey&) = delete;
-    OpenKey& operator=(const OpenKey&) = delete;
-
-    Registry::Handle Handle() const { return handle_; }
-
-  private:
-    Registry& registry_;
-    Registry::Handle handle_ = 0;
-};
-
-std::vector<StoredValue> ValuesOf(SqliteRegistry& registry, const RegistryPath& path) {
-    const OpenKey key(registry, path, false);
-    std::vector<StoredValue> values;
-    Check(registry.Values(path.root, path.key, values), registry, path);
-    return values;
-}
-
-std::vector<RegistryPath> AllKeys(const SqliteRegistry& registry) {
-    std::vector<StoredKey> keys;
-    Check(registry.Keys(keys), registry, {kLocalMachine, {}});
-    std::vector<RegistryPath> paths;
-    paths.reserve(keys.size());
-    for (const StoredKey& key : keys)
-        paths.push_back({key.root, key.path});
-    return paths;
-}
-
 ExitCode Get(const Options& options) {
     SqliteRegistry registry;
     const RegistryPath path = ParseRegistryPath(options.key);
     const OpenKey key(registry, path, false);
     StoredValue value{.name = options.name, .type = 0, .data = {}};
-    Check(registry.QueryValue(key.Handle(), options.name, std::numeric_limits<Long>::max(),
-                              value.type, value.data),
-          registry, path, options.name);
+    CheckResult(registry.QueryValue(key.Handle(), options.name, std::numeric_limits<Long>::max(),
+                                    value.type, value.data),
+                registry, path, options.name);
     Print(DataText(value) + "\n");
     return kDone;
 }
@@ -97,16 +41,10 @@ ExitCode Set(const Options& options) {
     const RegistryPath path = ParseRegistryPath(options.key);
     const OpenKey key(registry, path, true);
     const Long type = options.number ? kRegistryNumber : kRegistryString;
-    Check(registry.SetValue(key.Handle(), options.name, type,
-                            options.number ? NumberBytes(*options.number) : *options.text),
-          registry, path, options.name);
+    CheckResult(registry.SetValue(key.Handle(), options.name, type,
+                                  options.number ? NumberBytes(*options.number) : *options.text),
+                registry, path, options.name);
     return kDone;
-}
-
-bool LiesIn(const RegistryPath& path, const RegistryPath& parent) {
-    if (path.root != parent.root) return false;
-    return parent.key.empty() || EqualNoCase(path.key, parent.key) ||
-           StartsWithNoCase(path.key, parent.key + "\\");
 }
 
 Table KeyTable(const std::vector<RegistryPath>& paths) {
@@ -114,13 +52,6 @@ Table KeyTable(const std::vector<RegistryPath>& paths) {
     for (const RegistryPath& path : paths)
         table.rows.push_back({RegistryPathText(path)});
     return table;
-}
-
-std::vector<RegistryPath> KeysBelow(const SqliteRegistry& registry, const RegistryPath& parent) {
-    std::vector<RegistryPath> below;
-    for (const RegistryPath& path : AllKeys(registry))
-        if (LiesIn(path, parent) && !EqualNoCase(path.key, parent.key)) below.push_back(path);
-    return below;
 }
 
 /// The values of a key; of one that has none, the keys below it.
@@ -152,7 +83,7 @@ ExitCode Delete(const Options& options) {
     const Long result = options.deletedName
                             ? registry.DeleteValue(path.root, path.key, *options.deletedName)
                             : registry.DeleteKey(path.root, path.key);
-    Check(result, registry, path, options.deletedName.value_or(String()));
+    CheckResult(result, registry, path, options.deletedName.value_or(String()));
     return kDone;
 }
 
@@ -163,8 +94,8 @@ ExitCode Import(const Options& options) {
     for (const ImportedKey& each : keys) {
         const OpenKey key(registry, each.path, true);
         for (const StoredValue& value : each.values) {
-            Check(registry.SetValue(key.Handle(), value.name, value.type, value.data), registry,
-                  each.path, value.name);
+            CheckResult(registry.SetValue(key.Handle(), value.name, value.type, value.data),
+                        registry, each.path, value.name);
         }
     }
     return kDone;
@@ -180,7 +111,7 @@ ExitCode Export(const Options& options) {
         text += (text.empty() ? "" : "\n") +
                 ExportText(RegistryPathText(path), ValuesOf(registry, path));
     }
-    if (text.empty() && start) Check(kRegistryNotFound, registry, *start);
+    if (text.empty() && start) CheckResult(kRegistryNotFound, registry, *start);
     Print(text);
     return kDone;
 }
