@@ -69,7 +69,10 @@ Command MakeCheckCommand(CLI::App& app) {
     auto* const parser =
         app.add_subcommand("check", "Report what is wrong with plate libraries, line by line");
     auto options = std::make_shared<Options>();
-    parser->add_option("libraries", options->libraries, "Plate library files")->required();
+    parser
+        ->add_option("libraries", options->libraries,
+                     "Plate library files; \"-\" is standard input")
+        ->required();
     parser->add_flag("--json", options->json, "Write a JSON array of objects");
     parser->add_flag("--strict", options->strict, "Warnings too make the exit status 1");
     parser->add_flag_callback(

@@ -1,3 +1,4 @@
+#include "apps/plate/Arguments.h"
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
 #include "apps/plate/table/Table.h"
@@ -43,7 +44,7 @@ Command MakeListCommand(CLI::App& app) {
     auto* const parser =
         app.add_subcommand("list", "List the plates that can be found in a library");
     auto options = std::make_shared<Options>();
-    parser->add_option("library", options->plateLibrary, "Plate library file")->required();
+    AddLibraryArgument(*parser, options->plateLibrary);
     AddFormOptions(*parser, options->form);
     parser->footer("Examples:\n"
                    "  plate list Plates.Dat\n"

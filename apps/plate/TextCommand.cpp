@@ -1,3 +1,4 @@
+#include "apps/plate/Arguments.h"
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
 
@@ -27,9 +28,8 @@ ExitCode Run(const Options& options) {
 Command MakeTextCommand(CLI::App& app) {
     auto* const parser = app.add_subcommand("text", "Write the definition of a plate as text");
     auto options = std::make_shared<Options>();
-    parser->add_option("library", options->plateLibrary, "Plate library file")->required();
-    parser->add_option("plate", options->plate, "Name of the plate, in any letter case")
-        ->required();
+    AddLibraryArgument(*parser, options->plateLibrary);
+    AddPlateArgument(*parser, options->plate);
     parser->add_flag("--fields", options->fields,
                      "Write every value in a fixed order instead of the lines as they were read");
     parser->footer(

@@ -1,3 +1,4 @@
+#include "apps/plate/Arguments.h"
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
 #include "apps/plate/draw/LibraryFile.h"
@@ -152,8 +153,8 @@ ExitCode Run(const Options& options) {
 }
 
 void AddOptions(CLI::App& parser, Options& options) {
-    parser.add_option("library", options.plateLibrary, "Plate library file")->required();
-    parser.add_option("plate", options.plate, "Name of the plate, in any letter case")->required();
+    AddLibraryArgument(parser, options.plateLibrary);
+    AddPlateArgument(parser, options.plate);
     parser.add_option("-o,--output", options.output, "SVG file; standard output if left out or -");
     auto* const scale =
         parser.add_option("--scale", options.scale, "Drawing units (1/1440 inch) a millimetre")

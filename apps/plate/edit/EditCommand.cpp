@@ -1,3 +1,4 @@
+#include "apps/plate/Arguments.h"
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
 #include "apps/plate/edit/PlateEdits.h"
@@ -143,9 +144,8 @@ ExitCode Run(const CLI::App& parser, const Options& options) {
 Command MakeEditCommand(CLI::App& app) {
     auto* const parser = app.add_subcommand("edit", "Change the definition of a plate");
     auto options = std::make_shared<Options>();
-    parser->add_option("library", options->plateLibrary, "Plate library file")->required();
-    parser->add_option("plate", options->plate, "Name of the plate, in any letter case")
-        ->required();
+    AddLibraryArgument(*parser, options->plateLibrary);
+    AddPlateArgument(*parser, options->plate);
     for (const EditOption& edit : kEditOptions)
         AddEditOption(*parser, *options, edit);
     parser->add_flag("--in-place", options->inPlace, "Save the change in the library");

@@ -1,3 +1,4 @@
+#include "apps/plate/Arguments.h"
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
 #include "formats/labware/Labware.h"
@@ -84,9 +85,8 @@ Command MakeExportCommand(CLI::App& app) {
     auto* const parser =
         app.add_subcommand("export", "Write a plate in a format of other programs");
     auto options = std::make_shared<Options>();
-    parser->add_option("library", options->plateLibrary, "Plate library file")->required();
-    parser->add_option("plate", options->plate, "Name of the plate, in any letter case")
-        ->required();
+    AddLibraryArgument(*parser, options->plateLibrary);
+    AddPlateArgument(*parser, options->plate);
     parser->add_option("--to", options->format, "The format: opentrons or csv")
         ->required()
         ->check(CLI::IsMember({"opentrons", "csv"}));

@@ -67,7 +67,9 @@ ExitCode Run(const Options& options) {
 }
 
 void AddOptions(CLI::App& parser, Options& options) {
-    parser.add_option("file", options.file, "XML file with a list of pairs")->required();
+    parser
+        .add_option("file", options.file, "XML file with a list of pairs; \"-\" is standard input")
+        ->required();
     parser.add_option("--from-registry", options.fromRegistry, "Add the pairs stored in a key")
         ->type_name("ROOT\\KEY");
     parser.add_option("--remove", options.remove, "Remove a pair, named in any letter case")

@@ -1,3 +1,4 @@
+#include "apps/plate/Arguments.h"
 #include "apps/plate/Command.h"
 #include "apps/plate/Files.h"
 #include "apps/plate/calibration/CalibrationFile.h"
@@ -89,9 +90,8 @@ Command MakeWellsCommand(CLI::App& app) {
     auto* const parser =
         app.add_subcommand("wells", "Show where each well position of a plate lies");
     auto options = std::make_shared<Options>();
-    parser->add_option("library", options->plateLibrary, "Plate library file")->required();
-    parser->add_option("plate", options->plate, "Name of the plate, in any letter case")
-        ->required();
+    AddLibraryArgument(*parser, options->plateLibrary);
+    AddPlateArgument(*parser, options->plate);
     parser->add_flag("--sub-wells", options->subWells,
                      "Show every sub-well of each position, with its size and Z");
     AddFormOptions(*parser, options->form);
