@@ -37,6 +37,21 @@
     </message>
 </context>
 <context>
+    <name>DataQuestion</name>
+    <message>
+        <source>Plate Viewer</source>
+        <translation>Plate Viewer</translation>
+    </message>
+    <message>
+        <source>No file holds the data of the wells of: %1</source>
+        <translation>In keiner Datei stehen die Daten der Kavitäten von: %1</translation>
+    </message>
+    <message>
+        <source>Export Well Data writes that of the plate that is shown to a file.</source>
+        <translation>„Kavitätendaten exportieren“ schreibt die der angezeigten Platte in eine Datei.</translation>
+    </message>
+</context>
+<context>
     <name>DockPanels</name>
     <message>
         <source>Plates</source>

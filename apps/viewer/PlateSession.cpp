@@ -38,7 +38,7 @@ void PlateSession::ReadNames() {
 }
 
 bool PlateSession::Open(const QString& library, const QString& plateName) {
-    if (library != library_) kept_.clear();
+    if (library != library_) archive_.Clear();
     bool loaded = false;
     Edit([&] {
         KeepWells();
@@ -73,24 +73,41 @@ std::vector<Integer> PlateSession::SelectedWells() const {
     return wells;
 }
 
+QStringList PlateSession::PlatesNotInFile() {
+    Edit([this] { Archive(); });
+    QStringList names;
+    for (const String& name : archive_.NotInFile())
+        names << QString::fromStdString(name);
+    return names;
+}
+
+void PlateSession::DataIsInFile() {
+    Edit([this] { Archive(); });
+    archive_.SetInFile(Control().PlateName());
+}
+
+void PlateSession::Archive() {
+    if (!HasWells()) return;
+    WellArchive::Wells wells;
+    for (Integer well = 0; well < Control().TotalWells(); ++well)
+        wells.push_back(Capture(Control(), well));
+    archive_.Keep(Control().PlateName(), std::move(wells));
+}
+
 void PlateSession::KeepWells() {
     if (!HasWells()) return;
     Control().ClearSelection();
-    std::vector<WellSnapshot> wells;
-    for (Integer well = 0; well < Control().TotalWells(); ++well)
-        wells.push_back(Capture(Control(), well));
-    kept_[Control().PlateName()] = std::move(wells);
+    Archive();
 }
 
 // A control keeps data by well number from one plate to the next, where they mean nothing.
 void PlateSession::BringWellsBack() {
     if (!HasWells()) return;
-    const auto kept = kept_.find(Control().PlateName());
     const auto count = static_cast<std::size_t>(Control().TotalWells());
-    const bool known = kept != kept_.end() && kept->second.size() == count;
+    const WellArchive::Wells* const kept = archive_.Find(Control().PlateName(), count);
     const WellSnapshot empty = EmptyWell(Control());
     for (std::size_t well = 0; well < count; ++well)
-        Restore(Control(), static_cast<Integer>(well), known ? kept->second[well] : empty);
+        Restore(Control(), static_cast<Integer>(well), kept ? (*kept)[well] : empty);
     Control().CurrentWell(0);
     Control().ClearSelection();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "apps/viewer/logic/VolumeColoring.h"
-#include "apps/viewer/logic/WellSnapshot.h"
+#include "apps/viewer/logic/WellArchive.h"
 #include "apps/viewer/texts/ErrorText.h"
 #include "control/WellNames.h"
 #include "hosts/qt/PlateWidget.h"
@@ -9,8 +9,8 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
-#include <map>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -41,6 +41,10 @@ class PlateSession final : public QObject {
     /// The current well, or none when it is no well of the plate.
     std::optional<Integer> CurrentWell() const;
     std::vector<Integer> SelectedWells() const;
+    /// The plates of the library whose wells have data that no file holds.
+    QStringList PlatesNotInFile();
+    /// A file holds the data of the plate that is shown.
+    void DataIsInFile();
 
     /// Runs a change of the plate, of which the panels hear once it is complete. Emits failed()
     /// when it fails, and changed() in any case.
@@ -95,6 +99,7 @@ class PlateSession final : public QObject {
 
     void Report();
     void ReadNames();
+    void Archive();
     void KeepWells();
     void BringWellsBack();
 
@@ -105,7 +110,7 @@ class PlateSession final : public QObject {
     int holds_ = 0;
     bool namesOutdated_ = false;
     QString library_;
-    std::map<String, std::vector<WellSnapshot>> kept_; // by plate name
+    WellArchive archive_;
 };
 
 } // namespace zorvane::viewer

@@ -5,6 +5,7 @@
 #include "apps/viewer/logic/PlateChoice.h"
 #include "apps/viewer/panels/LibraryPanel.h"
 #include "apps/viewer/texts/ErrorText.h"
+#include "apps/viewer/window/DataQuestion.h"
 
 #include <QDockWidget>
 #include <QFileDialog>
@@ -20,7 +21,7 @@ LibraryBrowser::LibraryBrowser(PlateSession& session, EditMode& editing, Library
 }
 
 bool LibraryBrowser::Open(const QString& file) {
-    if (!editing_.MayLeave()) return false;
+    if (!editing_.MayLeave() || (file != file_ && !MayLeaveData(session_, window_))) return false;
     const auto listing = Read(file);
     if (!listing) return false;
     const int first = FirstPlate(*listing);

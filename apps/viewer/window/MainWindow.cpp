@@ -5,6 +5,7 @@
 #include "apps/viewer/panels/EventLog.h"
 #include "apps/viewer/panels/LibraryPanel.h"
 #include "apps/viewer/plate/PlateView.h"
+#include "apps/viewer/window/DataQuestion.h"
 #include "apps/viewer/window/DockPanels.h"
 #include "apps/viewer/window/LibraryBrowser.h"
 #include "apps/viewer/window/MainMenu.h"
@@ -137,6 +138,8 @@ void MainWindow::dropEvent(QDropEvent* event) {
     OpenLibrary(DroppedFile(*event->mimeData()));
 }
 
-void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(editing_->MayLeave()); }
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->setAccepted(editing_->MayLeave() && MayLeaveData(*session_, *this));
+}
 
 } // namespace zorvane::viewer

@@ -49,7 +49,9 @@ void WellDataFiles::Import(const QString& file) {
         emit failed(tr("%1, %2.\n\nNothing was changed.").arg(name, ErrorText(error)));
         return;
     }
+    const bool allInFile = !session_.PlatesNotInFile().contains(session_.Widget().plateName());
     session_.Edit([&] { ApplyWellData(session_.Control(), rows); });
+    if (allInFile) session_.DataIsInFile();
     const auto count = static_cast<int>(rows.size());
     emit done((count == 1 ? tr("Data of 1 well were read from %1")
                           : tr("Data of %n wells were read from %1", nullptr, count))
@@ -66,6 +68,7 @@ void WellDataFiles::Export(const QString& file) {
         emit failed(ErrorText(error));
         return;
     }
+    session_.DataIsInFile();
     emit done(tr("The data of all wells were written to %1").arg(name));
 }
 
