@@ -451,16 +451,8 @@
         <translation>&amp;Spalte</translation>
     </message>
     <message>
-        <source>First column, counted from 0</source>
-        <translation>Erste Spalte, ab 0 gezählt</translation>
-    </message>
-    <message>
         <source>&amp;Row</source>
         <translation>&amp;Zeile</translation>
-    </message>
-    <message>
-        <source>First row, counted from 0</source>
-        <translation>Erste Zeile, ab 0 gezählt</translation>
     </message>
     <message>
         <source>&amp;Width</source>
@@ -559,10 +551,18 @@
         <translation>bis zum Ende</translation>
     </message>
     <message>
+        <source>First column, counted from 1</source>
+        <translation>Erste Spalte, ab 1 gezählt</translation>
+    </message>
+    <message>
+        <source>First row, counted from 1</source>
+        <translation>Erste Zeile, ab 1 gezählt</translation>
+    </message>
+    <message>
         <source>Error %1: %2.
-The plate has columns 0 to %3 and rows 0 to %4. Nothing was filled.</source>
+The plate has columns 1 to %3 and rows 1 to %4. Nothing was filled.</source>
         <translation>Fehler %1: %2.
-Die Platte hat die Spalten 0 bis %3 und die Zeilen 0 bis %4. Nichts wurde gefüllt.</translation>
+Die Platte hat die Spalten 1 bis %3 und die Zeilen 1 bis %4. Nichts wurde gefüllt.</translation>
     </message>
 </context>
 <context>
@@ -1021,6 +1021,10 @@ Nichts wurde geändert.</translation>
     <message>
         <source>Error &amp;code</source>
         <translation>Fehler&amp;code</translation>
+    </message>
+    <message>
+        <source>%1 · row %2, column %3</source>
+        <translation>%1 · Zeile %2, Spalte %3</translation>
     </message>
 </context>
 </TS>

@@ -73,8 +73,8 @@ QWidget* FillDialog::MakeBlockFields() {
         connect(field, &QSpinBox::valueChanged, this, &FillDialog::ShowWalk);
         return field;
     };
-    x_ = add(0, 0, tr("&Column"), NumberField(-1, tr("First column, counted from 0")));
-    y_ = add(0, 1, tr("&Row"), NumberField(-1, tr("First row, counted from 0")));
+    x_ = add(0, 0, tr("&Column"), NumberField(1, tr("First column, counted from 1")));
+    y_ = add(0, 1, tr("&Row"), NumberField(1, tr("First row, counted from 1")));
     width_ = add(1, 0, tr("&Width"), NumberField(1, tr("Number of columns")));
     height_ = add(1, 1, tr("&Height"), NumberField(1, tr("Number of rows")));
     return fields;
@@ -119,8 +119,8 @@ void FillDialog::AddRangeFields(QFormLayout& form) {
 }
 
 void FillDialog::SetBlock(const FillBlock& block) {
-    x_->setValue(block.x);
-    y_->setValue(block.y);
+    x_->setValue(block.x + 1);
+    y_->setValue(block.y + 1);
     width_->setValue(block.width);
     height_->setValue(block.height);
     ShowWalk();
@@ -137,7 +137,7 @@ void FillDialog::ShowWalk() {
 
 void FillDialog::Fill() {
     Plate& plate = session_.Control();
-    plate.SetArray(Short(x_->value()), Short(y_->value()), Short(width_->value()),
+    plate.SetArray(Short(x_->value() - 1), Short(y_->value() - 1), Short(width_->value()),
                    Short(height_->value()), subWell_->currentText().toStdString(),
                    order_->currentIndex());
     plate.FillArray(colored_->isChecked() ? ToLong(color_->Color(), kNoColor) : kNoColor,
@@ -153,12 +153,12 @@ void FillDialog::accept() {
         try {
             Fill();
         } catch (const RuntimeError& error) {
-            problem = tr("Error %1: %2.\nThe plate has columns 0 to %3 and rows 0 to %4. "
+            problem = tr("Error %1: %2.\nThe plate has columns 1 to %3 and rows 1 to %4. "
                          "Nothing was filled.")
                           .arg(error.Number())
                           .arg(ErrorText(error))
-                          .arg(plate.Cols - 1)
-                          .arg(plate.Rows - 1);
+                          .arg(plate.Cols)
+                          .arg(plate.Rows);
             plate.CurrentWell(before);
         }
     });

@@ -159,9 +159,16 @@ void WellInspector::Refresh() {
     const auto well = session_.CurrentWell();
     fields_->setEnabled(well.has_value());
     legend_->setText(well ? QString::fromStdString(session_.Names().Position(*well)) : tr("–"));
-    location_->setText(well ? QString::fromStdString(session_.Control().Location())
-                            : tr("No well is chosen."));
+    location_->setText(well ? PlaceOf(session_.Control()) : tr("No well is chosen."));
     if (well) ShowWell(*well);
+}
+
+/// What the control calls the location, in numbers that people count with.
+QString WellInspector::PlaceOf(const Plate& plate) {
+    return tr("%1 · row %2, column %3")
+        .arg(QString::fromStdString(plate.SubWell()))
+        .arg(plate.Row() + 1)
+        .arg(plate.Col() + 1);
 }
 
 void WellInspector::ShowWell(Integer well) {

@@ -14,6 +14,10 @@ class QLabel;
 class QLineEdit;
 class QSpinBox;
 
+namespace zorvane {
+class Plate;
+}
+
 namespace zorvane::viewer {
 
 class ColorButton;
@@ -33,6 +37,7 @@ class WellInspector final : public QWidget {
     void ConnectFields();
     void ListSubWells();
     void Refresh();
+    static QString PlaceOf(const Plate& plate);
     void ShowWell(Integer well);
     /// Changes the current well, when there is one.
     void Change(const std::function<void(Integer well)>& change);
