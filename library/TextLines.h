@@ -11,6 +11,9 @@ struct TextLine {
     std::string_view end;
 };
 
+/// Takes the first line off the front of a text, which is not empty.
+TextLine TakeLine(std::string_view& text);
+
 /// The lines of a text, as a library file is cut into lines; they look into the text.
 std::vector<TextLine> LinesOf(std::string_view text);
 

@@ -42,8 +42,8 @@ bool FindAll(const Options& options, std::vector<Finding>& findings) {
     bool read = true;
     for (const String& library : options.libraries) {
         try {
-            std::vector<Finding> found =
-                CheckLibraryText(ReadFile(library), ShownName(library), options.standards);
+            std::vector<Finding> found = CheckLibraryText(ReadLibrary(library).Bytes(),
+                                                          ShownName(library), options.standards);
             std::move(found.begin(), found.end(), std::back_inserter(findings));
         } catch (const RuntimeError& error) {
             std::cerr << "plate: " << PrintableUtf8(error.Description()) << "\n";

@@ -1,5 +1,6 @@
 #include "apps/plate/Files.h"
 
+#include "apps/plate/DefinitionLimits.h"
 #include "library/DiskFiles.h"
 #include "library/ReplaceFile.h"
 #include "runtime/Text.h"
@@ -89,7 +90,11 @@ String ReadFile(const String& file) {
     }
 }
 
-LibraryText ReadLibrary(const String& file) { return LibraryText(ReadFile(file)); }
+LibraryText ReadLibrary(const String& file) {
+    LibraryText library(ReadFile(file));
+    WithFile(file, [&] { CheckDefinitionSizes(library.Bytes()); });
+    return library;
+}
 
 cmPlate ReadPlate(const String& file, const String& name) {
     const LibraryText library = ReadLibrary(file);

@@ -56,7 +56,7 @@ void WriteFile(const String& file, std::string_view bytes);
 /// kMostBytesRead.
 String ReadFile(const String& file);
 
-/// A plate library, read like any file.
+/// A plate library, read like any file. Fails as CheckDefinitionSizes does.
 LibraryText ReadLibrary(const String& file);
 
 /// The plate of a library as programs find it by name.

@@ -29,7 +29,7 @@ Table TableOf(const LibraryListing& listing) {
 }
 
 ExitCode Run(const Options& options) {
-    const LibraryListing listing = ListLibraryText(ReadFile(options.plateLibrary));
+    const LibraryListing listing = ListLibraryText(ReadLibrary(options.plateLibrary).Bytes());
     Print(TableText(TableOf(listing), options.form));
     if (listing.code == 0) return kDone;
     std::cerr << "plate: " << PrintableUtf8(ShownName(options.plateLibrary))

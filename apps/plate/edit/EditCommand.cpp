@@ -1,5 +1,6 @@
 #include "apps/plate/Arguments.h"
 #include "apps/plate/Command.h"
+#include "apps/plate/DefinitionLimits.h"
 #include "apps/plate/Files.h"
 #include "apps/plate/edit/PlateEdits.h"
 #include "library/DiskFiles.h"
@@ -123,6 +124,7 @@ ExitCode EditFile(const std::vector<PlateEdit>& edits, const Options& options) {
     DiskFiles files;
     const auto lock = LockForSaving(files, options.plateLibrary);
     LibraryDocument document(files, options.plateLibrary);
+    WithFile(options.plateLibrary, [&] { CheckDefinitionSizes(document.Text().Bytes()); });
     const Change change = ChangeOf(document.Text(), edits, options);
     // Printed first: once it is saved, the answer must not be that it failed.
     if (options.difference) PrintDifference(change, options);
