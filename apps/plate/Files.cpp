@@ -30,7 +30,7 @@ String ReadStream(std::istream& in) {
     String bytes;
     std::array<char, 65536> block = {};
     do {
-        in.read(block.data(), block.size());
+        in.read(block.data(), static_cast<std::streamsize>(block.size()));
         bytes.append(block.data(), static_cast<std::size_t>(in.gcount()));
         if (bytes.size() > kMostBytesRead) Fail("it is larger than 256 MB");
     } while (in);

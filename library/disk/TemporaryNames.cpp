@@ -57,9 +57,10 @@ void SweepTemporaries(const String& path) {
     for (fs::directory_iterator each(folder.empty() ? "." : folder, ignored), end; each != end;
          each.increment(ignored)) {
         const String name = each->path().filename().string();
-        const bool ours = name.size() == beginning.size() + kLetters &&
-                          name.starts_with(beginning) &&
-                          std::all_of(name.end() - kLetters, name.end(), IsSmallLetter);
+        if (!name.starts_with(beginning)) continue;
+        const std::string_view rest = std::string_view(name).substr(beginning.size());
+        const bool ours =
+            rest.size() == kLetters && std::all_of(rest.begin(), rest.end(), IsSmallLetter);
         if (ours) fs::remove(each->path(), ignored);
     }
 }
