@@ -71,9 +71,10 @@ void RequireShared(const std::vector<SourceWell>& wells) {
             RefuseSource("the wells differ: the " + String(shared.name) + of + "is " +
                          (first.*shared.value).Text() + at + (well.*shared.value).Text());
         }
-        if (well.style != first.style)
+        if (well.style != first.style) {
             RefuseSource("the wells differ: the style" + of + "is " + first.style + at +
                          well.style);
+        }
     }
 }
 

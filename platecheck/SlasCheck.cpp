@@ -52,10 +52,11 @@ class Check {
         Size(Keyword::XOverall, plate_.xOverall(), upright_ ? kWidth : kLength, "ANSI SLAS 1-2004");
         Size(Keyword::YOverall, plate_.yOverall(), upright_ ? kLength : kWidth, "ANSI SLAS 1-2004");
         Size(Keyword::Height, plate_.Height(), kHeight, "ANSI SLAS 2-2004");
-        for (const WellFormat& format : kFormats)
+        for (const WellFormat& format : kFormats) {
             if (plate_.Rows() == (upright_ ? format.cols : format.rows) &&
                 plate_.Cols() == (upright_ ? format.rows : format.cols))
                 Wells(format);
+        }
     }
 
   private:
@@ -116,9 +117,10 @@ class Check {
         const Double lastY = (plate_.YPitch() - format.pitch) * (plate_.Rows() - 1);
         Double farthest = 0;
         for (const Double dx : {0.0, lastX}) {
-            for (const Double dy : {0.0, lastY})
+            for (const Double dy : {0.0, lastY}) {
                 farthest = std::max(farthest, std::hypot(centre.X() - expected.x + dx,
                                                          centre.Y() - expected.y + dy));
+            }
         }
         return farthest;
     }

@@ -87,9 +87,10 @@ const char* FormatOf(const cmPlate& plate) {
 }
 
 Json Dimensions(const SourcePlate& plate) {
-    for (const ExactNumber& length : {plate.length, plate.width, plate.height})
+    for (const ExactNumber& length : {plate.length, plate.width, plate.height}) {
         if (length.Units() < 0)
             RefusePlate("a labware cannot have a negative size: " + length.Text());
+    }
     return {{"xDimension", plate.length.Value()},
             {"yDimension", plate.width.Value()},
             {"zDimension", plate.height.Value()}};

@@ -124,9 +124,10 @@ class Layout {
             return ForEachOfCorners(group, [&](const WellPosition& well) { set(wells_[well]); });
         const std::set<Long> lines(group.lines.begin(), group.lines.end());
         Count(static_cast<std::int64_t>(wells_.size()));
-        for (auto& [position, parameters] : wells_)
+        for (auto& [position, parameters] : wells_) {
             if (!IsLines(group.kind) || lines.contains(LineOf(group.kind, position)))
                 set(parameters);
+        }
     }
 
     std::vector<MapGroup> groups_;

@@ -11,9 +11,10 @@ String Data(const std::vector<MappedWell>& wells) { return WellDataOf(wells, {})
 String Wellmap(const String& toml, const String& plate = {}) {
     String wells;
     for (const MappedWell& well : ReadWellmap(toml, plate)) {
-        for (const auto& [name, value] : well.parameters)
+        for (const auto& [name, value] : well.parameters) {
             if (name == "v")
                 wells += (wells.empty() ? "" : " ") + PositionName(well.position) + "=" + value;
+        }
     }
     return wells;
 }

@@ -75,9 +75,10 @@ class WellCentres {
 void RequireColumns(const CsvColumns& columns) {
     if (columns.Has(Well) && (columns.Has(X) || columns.Has(Y)))
         FailAt(columns.Line(), 1, R"(a column "well" leaves no place for "x" and "y")");
-    if (!columns.Has(Well) && !columns.Has(X) && !columns.Has(Y))
+    if (!columns.Has(Well) && !columns.Has(X) && !columns.Has(Y)) {
         FailAt(columns.Line(), 1,
                R"(the columns are "well", or "x" and "y"; "stage-x" and "stage-y")");
+    }
     for (const Column column : {X, Y})
         if (!columns.Has(Well)) columns.Require(column);
     columns.Require(StageX);
@@ -105,9 +106,10 @@ MeasuredPoints ReadMeasuredPoints(std::string_view csv, const cmPlate& plate) {
             return PlanePoint{NumberIn(columns, record, X), NumberIn(columns, record, Y)};
         const String name = columns.Trimmed(record, Well);
         const auto centre = centres.Find(name);
-        if (!centre)
+        if (!centre) {
             columns.Fail(record, Well,
                          "\"" + name + "\" names no well of the plate, or more than one");
+        }
         return *centre;
     };
     MeasuredPoints measured;
