@@ -176,7 +176,7 @@ class ZORVANE_EXPORT PlateWidget : public QWidget {
         EscapeClearsSelection = 0x08,
         /// The legends of the row and column under the pointer light up.
         HighlightLegends = 0x10,
-        /// The tooltip names position, sub-well, volume, text and error.
+        /// The tooltip names position, sub-well, volume, text, annotation and error.
         RichToolTips = 0x20,
         /// A defined well with an error code shows an exclamation mark.
         ErrorMarks = 0x40,

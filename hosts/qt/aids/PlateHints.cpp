@@ -14,6 +14,8 @@ namespace zorvane {
 namespace {
 
 constexpr Single kLeastBadge = 165;
+constexpr Single kBadgeEdge = 15;
+constexpr Rgb kBadge{0xC6, 0x28, 0x28};
 
 struct Hints {
     Q_DECLARE_TR_FUNCTIONS(zorvane::PlateWidget)
@@ -49,14 +51,19 @@ void DrawExclamationMark(Canvas& canvas, Rgb color, const Rect& box) {
 }
 
 /// The mark stands on a badge at the rim's upper right, clear of a caption and of sub-wells in
-/// front.
+/// front. Its colours are its own, so that it is there on any colour that a host gives wells. On a
+/// well too small for the mark, the badge alone is shown.
 void MarkError(const Surface& surface, std::size_t well, Single x, Single y, Canvas& canvas) {
-    const Rgb fill = Resolve(surface.WellBottom[well].fill, SystemPalette());
     const Rect rim = surface.WellRim[well].box.Moved(x, y);
-    const Single side = std::min(std::max(kLeastBadge, rim.height / 4), rim.height);
+    const bool small = rim.height < kLeastBadge;
+    const Single side = small ? rim.height / 2 : std::max(kLeastBadge, rim.height / 4);
     const Rect badge{rim.Right() - side, rim.top, side, side};
-    canvas.DrawShape({ShapeKind::Circle, fill, true}, badge);
-    DrawExclamationMark(canvas, ReadableOn(fill, kBlack), badge);
+    if (small) return canvas.DrawShape({ShapeKind::Circle, kBadge, false}, badge);
+    canvas.DrawShape({ShapeKind::Circle, kWhite, false}, badge);
+    canvas.DrawShape({ShapeKind::Circle, kBadge, false},
+                     {badge.left + kBadgeEdge, badge.top + kBadgeEdge, side - 2 * kBadgeEdge,
+                      side - 2 * kBadgeEdge});
+    DrawExclamationMark(canvas, kWhite, badge);
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QStringList>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -148,9 +149,11 @@ void PlateInput::ShowToolTip(const QHelpEvent& event) {
 QString PlateInput::ToolTip() const {
     if (!widget_.aids().testFlag(PlateWidget::Aid::RichToolTips))
         return QString::fromStdString(plate_.Elements().plateToolTip);
-    const QString name = widget_.wellCaption(painter_.Hovered());
-    const QString data = DataOf(plate_, painter_.Hovered());
-    return data.isEmpty() ? name : name + QLatin1Char('\n') + data;
+    const Integer well = painter_.Hovered();
+    QStringList lines{widget_.wellCaption(well), widget_.wellAnnotation(well),
+                      DataOf(plate_, well)};
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
 }
 
 } // namespace zorvane
