@@ -94,7 +94,7 @@ TEST(ReplaceFile, LeavesTheFileAsItWasWhicheverStepFails) {
             const bool claimsOld = said.ends_with(" The file is as it was.") || step < 2;
             EXPECT_EQ(folder.Bytes("a.dat"), claimsOld ? "old" : "new") << said;
             Names names = folder.Names();
-            names.erase("a.dat~");
+            if (said.empty()) names.erase("a.dat~");
             EXPECT_EQ(names, Names{"a.dat"}) << said;
             if (said.empty()) break;
             EXPECT_TRUE(claimsOld || !expected) << said;
