@@ -16,10 +16,6 @@
         <translation>Die Bilddatei, die --picture schreibt.</translation>
     </message>
     <message>
-        <source>Plate library to open; else the one that the registry leads to.</source>
-        <translation>Zu öffnende Plattenbibliothek; sonst die, auf die die Registrierung verweist.</translation>
-    </message>
-    <message>
         <source>plate</source>
         <translation>Platte</translation>
     </message>
@@ -34,6 +30,10 @@
     <message>
         <source>library</source>
         <translation>Bibliothek</translation>
+    </message>
+    <message>
+        <source>Plate library to open; else that of the last run, or the one that the registry leads to.</source>
+        <translation>Zu öffnende Plattenbibliothek; sonst die des letzten Laufs oder die, auf die die Registrierung verweist.</translation>
     </message>
 </context>
 <context>
@@ -779,6 +779,10 @@ Zeile %2</translation>
     <message>
         <source>Open &amp;Recent</source>
         <translation>Zu&amp;letzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste &amp;leeren</translation>
     </message>
 </context>
 <context>

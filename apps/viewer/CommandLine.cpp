@@ -18,9 +18,10 @@ CommandLine::CommandLine(const QCoreApplication& app) {
     parser.addOption({{QStringLiteral("o"), QStringLiteral("output")},
                       tr("The image file that --picture writes."),
                       tr("file")});
-    parser.addPositionalArgument(
-        tr("library"), tr("Plate library to open; else the one that the registry leads to."),
-        tr("[library]"));
+    parser.addPositionalArgument(tr("library"),
+                                 tr("Plate library to open; else that of the last run, or the one "
+                                    "that the registry leads to."),
+                                 tr("[library]"));
     parser.process(app);
     const QStringList files = parser.positionalArguments();
     picture = parser.value(QStringLiteral("picture"));

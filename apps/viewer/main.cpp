@@ -44,10 +44,15 @@ void ChooseStyle() {
     if (QApplication::style()->name() == QLatin1String("windows")) QApplication::setStyle("fusion");
 }
 
-/// The library that the registry leads every control to, where there is one.
-QString DefaultLibrary(MainWindow& window) {
-    const QString file = window.Session().Widget().fileName();
-    return QFileInfo::exists(file) ? file : QString();
+/// Opens the library asked for, else that of the last run, else the one that the registry leads
+/// every control to.
+void OpenFirstLibrary(MainWindow& window, const QString& asked) {
+    if (!asked.isEmpty()) {
+        window.OpenLibrary(asked);
+    } else if (!window.OpenLastLibrary()) {
+        const QString file = window.Session().Widget().fileName();
+        if (QFileInfo::exists(file)) window.OpenLibrary(file);
+    }
 }
 
 } // namespace
@@ -68,7 +73,6 @@ int main(int argc, char** argv) {
     if (!asked.picture.isEmpty()) return Draw(asked);
     MainWindow window;
     window.show();
-    const QString file = asked.fileName.isEmpty() ? DefaultLibrary(window) : asked.fileName;
-    if (!file.isEmpty()) window.OpenLibrary(file);
+    OpenFirstLibrary(window, asked.fileName);
     return QApplication::exec();
 }

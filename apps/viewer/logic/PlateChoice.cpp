@@ -39,4 +39,13 @@ int FirstPlate(const LibraryListing& library) {
     return static_cast<int>(best - plates.begin());
 }
 
+int PlateOrFirst(const LibraryListing& library, std::string_view name) {
+    const auto& plates = library.plates;
+    const auto wanted = std::find_if(plates.begin(), plates.end(), [name](auto& plate) {
+        return plate.found && EqualNoCase(plate.name, name);
+    });
+    if (wanted == plates.end()) return FirstPlate(library);
+    return static_cast<int>(wanted - plates.begin());
+}
+
 } // namespace zorvane::viewer

@@ -15,4 +15,8 @@ bool MatchesFilter(const LibraryEntry& plate, std::string_view typed);
 /// that is not the placeholder, else any; -1 when none can be shown.
 int FirstPlate(const LibraryListing& library);
 
+/// The plate of a name (case does not matter) as its index; without one that can be shown, the one
+/// to show first.
+int PlateOrFirst(const LibraryListing& library, std::string_view name);
+
 } // namespace zorvane::viewer

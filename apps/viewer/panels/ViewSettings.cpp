@@ -8,12 +8,24 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMetaEnum>
+#include <QSettings>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include <utility>
 
 namespace zorvane::viewer {
+
+namespace {
+
+constexpr double kLeastScale = 1;
+constexpr double kMostScale = 1000;
+
+QString KeyOf(const QString& property) { return QStringLiteral("view/") + property; }
+
+QString ScaleKey() { return KeyOf(QStringLiteral("DrawingScale")); }
+
+} // namespace
 
 ViewSettings::ViewSettings(PlateSession& session, QWidget* parent)
     : QWidget(parent), session_(session) {
@@ -23,6 +35,7 @@ ViewSettings::ViewSettings(PlateSession& session, QWidget* parent)
     AddLayout();
     AddAids();
     layout->addStretch(1);
+    RestoreScale();
     connect(&session, &PlateSession::changed, this, &ViewSettings::Refresh);
     Refresh();
 }
@@ -37,9 +50,11 @@ void ViewSettings::Add(QVBoxLayout& group, const QString& text, const QString& p
                        std::function<void(bool)> apply) {
     auto* box = new QCheckBox(text);
     box->setToolTip(property);
-    box->setChecked(on);
-    apply(on);
+    box->setChecked(QSettings().value(KeyOf(property), on).toBool());
+    apply(box->isChecked());
     connect(box, &QCheckBox::toggled, this, std::move(apply));
+    connect(box, &QCheckBox::toggled, this,
+            [property](bool now) { QSettings().setValue(KeyOf(property), now); });
     group.addWidget(box);
 }
 
@@ -72,18 +87,26 @@ void ViewSettings::AddLayout() {
 
 void ViewSettings::AddScale(QVBoxLayout& group) {
     scale_ = new QDoubleSpinBox;
-    scale_->setRange(1, 1000);
+    scale_->setRange(kLeastScale, kMostScale);
     scale_->setDecimals(1);
     scale_->setKeyboardTracking(false);
     scale_->setToolTip(tr("DrawingScale: drawing units (1440 an inch) per millimetre"));
-    connect(scale_, &QDoubleSpinBox::valueChanged, this,
-            [this](double scale) { session_.Widget().setDrawingScale(scale); });
+    connect(scale_, &QDoubleSpinBox::valueChanged, this, [this](double scale) {
+        session_.Widget().setDrawingScale(scale);
+        QSettings().setValue(ScaleKey(), scale);
+    });
     auto* label = new QLabel(tr("Sc&ale"));
     label->setBuddy(scale_);
     auto* row = new QHBoxLayout;
     row->addWidget(label);
     row->addWidget(scale_, 1);
     group.addLayout(row);
+}
+
+void ViewSettings::RestoreScale() {
+    const double scale = QSettings().value(ScaleKey(), 0).toDouble();
+    if (session_.Widget().fixedSize() || scale < kLeastScale || scale > kMostScale) return;
+    session_.Widget().setDrawingScale(scale);
 }
 
 void ViewSettings::AddAids() {

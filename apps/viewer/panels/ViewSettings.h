@@ -11,7 +11,8 @@ namespace zorvane::viewer {
 
 class PlateSession;
 
-/// Switches of the control, each with the name of its property as its tooltip.
+/// Switches of the control, each with the name of its property as its tooltip. They are kept from
+/// one run of the program to the next.
 class ViewSettings final : public QWidget {
     Q_OBJECT
 
@@ -30,6 +31,7 @@ class ViewSettings final : public QWidget {
     void AddLayout();
     void AddAids();
     void AddScale(QVBoxLayout& group);
+    void RestoreScale();
     void Refresh();
 
     PlateSession& session_;

@@ -1,5 +1,6 @@
 #include "apps/viewer/window/DockPanels.h"
 
+#include "apps/viewer/PlateSession.h"
 #include "apps/viewer/editing/DifferencePanel.h"
 #include "apps/viewer/panels/EventLog.h"
 #include "apps/viewer/panels/LibraryPanel.h"
@@ -17,9 +18,11 @@ namespace {
 
 constexpr int kEventsHeight = 130; // pixels
 
-QDockWidget* AddDock(QMainWindow& window, const QString& title, QWidget* content,
-                     Qt::DockWidgetArea area) {
+/// The name is that with which the window keeps where the dock is.
+QDockWidget* AddDock(QMainWindow& window, const QString& name, const QString& title,
+                     QWidget* content, Qt::DockWidgetArea area) {
     auto* dock = new QDockWidget(title, &window);
+    dock->setObjectName(name);
     dock->setWidget(content);
     window.addDockWidget(area, dock);
     return dock;
@@ -43,18 +46,21 @@ DockPanels::DockPanels(QMainWindow& window, PlateSession& session, PlateView& vi
     : library_(new LibraryPanel), events_(new EventLog), difference_(new DifferencePanel) {
     auto* settings = new ViewSettings(session);
     QObject::connect(settings, &ViewSettings::fixedSizeChanged, &view, &PlateView::SetFitted);
+    view.SetFitted(session.Widget().fixedSize());
 
-    AddDock(window, tr("Plates"), library_, Qt::LeftDockWidgetArea);
-    QDockWidget* well =
-        AddDock(window, tr("Well"), Scrolled(new WellInspector(session)), Qt::RightDockWidgetArea);
-    QDockWidget* options =
-        AddDock(window, tr("Settings"), Scrolled(settings), Qt::RightDockWidgetArea);
+    AddDock(window, QStringLiteral("Plates"), tr("Plates"), library_, Qt::LeftDockWidgetArea);
+    QDockWidget* well = AddDock(window, QStringLiteral("Well"), tr("Well"),
+                                Scrolled(new WellInspector(session)), Qt::RightDockWidgetArea);
+    QDockWidget* options = AddDock(window, QStringLiteral("Settings"), tr("Settings"),
+                                   Scrolled(settings), Qt::RightDockWidgetArea);
     window.tabifyDockWidget(well, options);
-    differenceDock_ = AddDock(window, tr("Difference"), difference_, Qt::RightDockWidgetArea);
+    differenceDock_ = AddDock(window, QStringLiteral("Difference"), tr("Difference"), difference_,
+                              Qt::RightDockWidgetArea);
     window.tabifyDockWidget(options, differenceDock_);
     differenceDock_->hide();
     well->raise();
-    QDockWidget* events = AddDock(window, tr("Events"), events_, Qt::BottomDockWidgetArea);
+    QDockWidget* events =
+        AddDock(window, QStringLiteral("Events"), tr("Events"), events_, Qt::BottomDockWidgetArea);
     window.setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
     window.setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);

@@ -10,8 +10,16 @@
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QSettings>
 
 namespace zorvane::viewer {
+
+namespace {
+
+constexpr const char* kLastLibrary = "lastLibrary";
+constexpr const char* kLastPlate = "lastPlate";
+
+} // namespace
 
 LibraryBrowser::LibraryBrowser(PlateSession& session, EditMode& editing, LibraryPanel& panel,
                                QWidget& window)
@@ -20,11 +28,11 @@ LibraryBrowser::LibraryBrowser(PlateSession& session, EditMode& editing, Library
     connect(&editing, &EditMode::libraryChanged, this, &LibraryBrowser::ListAgain);
 }
 
-bool LibraryBrowser::Open(const QString& file) {
+bool LibraryBrowser::Open(const QString& file, const QString& plate) {
     if (!editing_.MayLeave() || (file != file_ && !MayLeaveData(session_, window_))) return false;
     const auto listing = Read(file);
     if (!listing) return false;
-    const int first = FirstPlate(*listing);
+    const int first = PlateOrFirst(*listing, plate.toStdString());
     if (first < 0) {
         const QString reason = tr("There is no plate in %1.").arg(QFileInfo(file).fileName());
         emit failed((reason + '\n' + LibraryPanel::StopText(*listing)).trimmed());
@@ -36,6 +44,19 @@ bool LibraryBrowser::Open(const QString& file) {
     emit opened(file);
     panel_.Choose(first);
     return true;
+}
+
+bool LibraryBrowser::OpenLast() {
+    const QSettings settings;
+    const QString file = settings.value(kLastLibrary).toString();
+    return QFileInfo::exists(file) && Open(file, settings.value(kLastPlate).toString());
+}
+
+void LibraryBrowser::Remember() const {
+    if (file_.isEmpty()) return;
+    QSettings settings;
+    settings.setValue(kLastLibrary, QFileInfo(file_).absoluteFilePath());
+    settings.setValue(kLastPlate, session_.Widget().plateName());
 }
 
 void LibraryBrowser::AskAndOpen() {

@@ -24,9 +24,15 @@ class LibraryBrowser final : public QObject {
 
     /// The library that is open; empty before the first one.
     const QString& File() const { return file_; }
-    /// Opens a library and shows one of its plates. Emits failed(), and keeps what was open, when
-    /// the file cannot be read or has no plate. Returns whether the library is open.
-    bool Open(const QString& file);
+    /// Opens a library and shows one of its plates: that of the name given, if it has it. Emits
+    /// failed(), and keeps what was open, when the file cannot be read or has no plate. Returns
+    /// whether the library is open.
+    bool Open(const QString& file, const QString& plate = {});
+    /// Opens the library of the last run with the plate that was shown. Returns false, without a
+    /// word, when the file is no longer there.
+    bool OpenLast();
+    /// Keeps for the next run which library and plate are open.
+    void Remember() const;
     /// Lets the operator choose the library to open.
     void AskAndOpen();
     /// Leads to the filter of the plates, wherever its panel is.

@@ -13,11 +13,14 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QSettings>
 #include <QToolBar>
 
 namespace zorvane::viewer {
 
 namespace {
+
+constexpr const char* kColorByVolume = "colourByVolume";
 
 QIcon Icon(const char* name) { return QIcon::fromTheme(QLatin1String(name)); }
 
@@ -40,7 +43,8 @@ void MainMenu::AddFileMenu(LibraryBrowser& library, WellDataFiles& data) {
     open->setIconText(tr("Open"));
     auto* recent = new RecentFiles(&window_);
     menu.addMenu(recent);
-    connect(recent, &RecentFiles::chosen, &library, &LibraryBrowser::Open);
+    connect(recent, &RecentFiles::chosen, &library,
+            [&library](const QString& file) { library.Open(file); });
     connect(&library, &LibraryBrowser::opened, recent, &RecentFiles::Add);
     menu.addAction(Icon("edit-find"), tr("&Find Plate"), QKeySequence::Find, &library,
                    &LibraryBrowser::FindPlate);
@@ -95,6 +99,9 @@ void MainMenu::AddViewMenu() {
     volumes->setCheckable(true);
     volumes->setShortcut(QKeyCombination(Qt::CTRL, Qt::Key_L));
     connect(volumes, &QAction::toggled, &session_, &PlateSession::ColorByVolume);
+    volumes->setChecked(QSettings().value(kColorByVolume).toBool());
+    connect(volumes, &QAction::toggled, this,
+            [](bool on) { QSettings().setValue(kColorByVolume, on); });
     needWells_->addAction(volumes);
     tools_->addAction(volumes);
     menu.addSeparator();

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QSettings>
 #include <QStatusBar>
 
 namespace zorvane::viewer {
@@ -29,6 +30,10 @@ constexpr QRgb kError = 0xF0938A;
 
 constexpr int kMessageTime = 10000; // ms
 constexpr QSize kFirstSize(1280, 780);
+
+// Under which the settings keep where the window, its docks and its tool bar are.
+constexpr const char* kGeometry = "window/geometry";
+constexpr const char* kArrangement = "window/arrangement";
 
 QString DroppedFile(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
@@ -59,11 +64,28 @@ MainWindow::MainWindow()
     selection_->setTextFormat(Qt::PlainText);
     ShowTitle();
     ShowSelection();
-    resize(kFirstSize);
+    Restore(panels);
     panels.Library().setFocus();
 }
 
 bool MainWindow::OpenLibrary(const QString& file) { return library_->Open(file); }
+
+bool MainWindow::OpenLastLibrary() { return library_->OpenLast(); }
+
+void MainWindow::Restore(const DockPanels& panels) {
+    const QSettings settings;
+    resize(kFirstSize);
+    restoreGeometry(settings.value(kGeometry).toByteArray());
+    restoreState(settings.value(kArrangement).toByteArray());
+    panels.ShowDifference(false); // the last run may have ended in the middle of editing
+}
+
+void MainWindow::Remember() const {
+    QSettings settings;
+    settings.setValue(kGeometry, saveGeometry());
+    settings.setValue(kArrangement, saveState());
+    library_->Remember();
+}
 
 void MainWindow::AddMenus() {
     auto* files = new WellDataFiles(*session_, *library_, *this);
@@ -140,6 +162,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(editing_->MayLeave() && MayLeaveData(*session_, *this));
+    if (event->isAccepted()) Remember();
 }
 
 } // namespace zorvane::viewer

@@ -28,6 +28,8 @@ class MainWindow final : public QMainWindow {
     /// Opens a library and shows one of its plates. Says what is wrong in a message box, and keeps
     /// what was open, when the file cannot be read.
     bool OpenLibrary(const QString& file);
+    /// Opens the library and the plate that the last run ended with, if the file is still there.
+    bool OpenLastLibrary();
     PlateSession& Session() { return *session_; }
 
   protected:
@@ -40,6 +42,8 @@ class MainWindow final : public QMainWindow {
     void ConnectEditing(const DockPanels& panels);
     void ConnectLibrary();
     void ConnectPlate(const DockPanels& panels);
+    void Restore(const DockPanels& panels);
+    void Remember() const;
     void Warn(const QString& text);
     void ShowTitle();
     void ShowSelection();

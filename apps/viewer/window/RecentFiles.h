@@ -4,7 +4,8 @@
 
 namespace zorvane::viewer {
 
-/// The menu of the libraries opened last, kept from one run of the program to the next.
+/// The menu of the libraries opened last, kept from one run of the program to the next. Those that
+/// are gone are left out.
 class RecentFiles final : public QMenu {
     Q_OBJECT
 
@@ -19,6 +20,7 @@ class RecentFiles final : public QMenu {
 
   private:
     void Fill();
+    void Forget();
 };
 
 } // namespace zorvane::viewer

@@ -17,6 +17,14 @@ TEST(PlateFilter, FindsEveryWordInNameOrTags) {
         EXPECT_FALSE(MatchesFilter(plate, typed)) << typed;
 }
 
+TEST(PlateOrFirst, TakesThePlateOfTheNameIfItCanBeShown) {
+    const LibraryListing library{
+        {Entry("Drops", 2), Entry("Batch", 1), Entry("Lost", 1, {}, false)}};
+    EXPECT_EQ(PlateOrFirst(library, "BATCH"), 1);
+    EXPECT_EQ(PlateOrFirst(library, "Lost"), 0);
+    EXPECT_EQ(PlateOrFirst(library, ""), 0);
+}
+
 TEST(FirstPlate, PrefersAPlateWithDropsToOneWithoutToThePlaceholder) {
     const LibraryEntry placeholder = Entry("NO_PLATE", 3);
     const LibraryEntry batch = Entry("Batch", 1);

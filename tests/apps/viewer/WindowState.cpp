@@ -139,6 +139,7 @@ Shown FieldsOf(const QWidget& panel) {
 Shown StateOf(MainWindow& window) {
     Shown shown;
     shown["title"] = window.windowTitle().replace("[*]", window.isWindowModified() ? "*" : "");
+    shown["height"] = QString::number(window.height()); // the least width differs with the fonts
     shown["status"] = window.statusBar()->currentMessage();
     for (const auto* label : window.statusBar()->findChildren<QLabel*>())
         shown["selection"] = label->text();

@@ -23,6 +23,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QSettings>
 #include <QSpinBox>
 #include <QTest>
 #include <QTimer>
@@ -68,10 +69,11 @@ class Operator {
     Operator() {
         std::filesystem::copy_file(ZORVANE_SAMPLE_LIBRARY, folder_.File("sample.dat"));
         QDir::setCurrent(QString::fromStdString(folder_.Path().string()));
-        window_.show();
-        window_.OpenLibrary("sample.dat");
+        QSettings().clear();
+        window_.emplace().show();
+        window_->OpenLibrary("sample.dat");
         QApplication::processEvents();
-        before_ = StateOf(window_);
+        before_ = StateOf(*window_);
         QObject::connect(&dialogs_, &QTimer::timeout, [this] { LookForDialog(); });
     }
     ~Operator() { QDir::setCurrent(home_); }
@@ -99,20 +101,23 @@ class Operator {
         const QString verb = command.section(' ', 0, 0);
         const QString rest = command.section(' ', 1);
         const QString file = rest.section(' ', 0, 0);
-        Plate& plate = window_.Session().Control();
-        if (verb == "open") window_.OpenLibrary(rest);
+        Plate& plate = window_->Session().Control();
+        if (verb == "open") window_->OpenLibrary(rest);
+        if (verb == "restart") Restart();
+        if (verb == "size")
+            window_->resize(rest.section(' ', 0, 0).toInt(), rest.section(' ', 1).toInt());
         if (verb == "menu") Trigger(rest);
         if (verb == "press")
-            QTest::mouseClick(&Find<QAbstractButton>(window_, rest), Qt::LeftButton);
-        if (verb == "click") Find<QAbstractButton>(window_, rest).click();
+            QTest::mouseClick(&Find<QAbstractButton>(*window_, rest), Qt::LeftButton);
+        if (verb == "click") Find<QAbstractButton>(*window_, rest).click();
         if (verb == "set")
-            Fill(Find<QWidget>(window_, rest.section('=', 0, 0)), rest.section('=', 1));
+            Fill(Find<QWidget>(*window_, rest.section('=', 0, 0)), rest.section('=', 1));
         if (verb == "key") Type(rest);
         if (verb == "drag") Drag(rest);
         if (verb == "drop") Drop(rest.split(' '));
         if (verb == "choose") Choose(rest);
         if (verb == "page") plate.PageChosen(rest.toShort());
-        if (verb == "close") report_ += window_.close() ? "closed\n" : "stays\n";
+        if (verb == "close") report_ += window_->close() ? "closed\n" : "stays\n";
         if (verb == "write") {
             QString text = rest.section(' ', 1).replace("{grid}", kGrid);
             folder_.Put(file.toStdString(), text.replace("\\n", "\n").toStdString());
@@ -129,18 +134,26 @@ class Operator {
         if (verb == "show") report_ += QString::fromStdString(Bytes(file.toStdString()));
         if (verb == "scale") report_ += QString::number(double{plate.DrawingScale()}) + "\n";
         if (verb == "state") before_.clear();
-        if (verb == "focus") report_ += NameOf(*window_.focusWidget()) + "\n";
+        if (verb == "focus") report_ += NameOf(*window_->focusWidget()) + "\n";
+    }
+
+    /// Ends the program and starts it again.
+    void Restart() {
+        window_->close();
+        window_.emplace().show();
+        window_->OpenLastLibrary();
+        QApplication::processEvents();
     }
 
     void Trigger(const QString& text) {
-        for (auto* action : window_.findChildren<QAction*>())
+        for (auto* action : window_->findChildren<QAction*>())
             if (action->text().remove('&') == text) return action->trigger();
         throw std::runtime_error("no action");
     }
 
     /// "FIELD: KEY KEY": keys that the operator presses in a field.
     void Type(const QString& typed) {
-        QWidget& field = Find<QWidget>(window_, typed.section(": ", 0, 0));
+        QWidget& field = Find<QWidget>(*window_, typed.section(": ", 0, 0));
         field.setFocus();
         for (const QString& key : typed.section(": ", 1).split(' '))
             QTest::keySequence(&field, QKeySequence(key));
@@ -148,7 +161,7 @@ class Operator {
 
     /// Presses the left button on one well and releases it on another.
     void Drag(const QString& wells) {
-        PlateWidget& widget = window_.Session().Widget();
+        PlateWidget& widget = window_->Session().Widget();
         const auto middle = [&](const QString& well) {
             const Surface& surface = widget.plate().Elements();
             const QPointF origin = ToPixels(surface.fraPlate.box).topLeft();
@@ -169,11 +182,11 @@ class Operator {
         data.setUrls(urls);
         QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, {});
         enter.ignore();
-        QApplication::sendEvent(&window_, &enter);
+        QApplication::sendEvent(&*window_, &enter);
         report_ += enter.isAccepted() ? "" : "refused\n";
         if (!enter.isAccepted()) return;
         QDropEvent drop({}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&window_, &drop);
+        QApplication::sendEvent(&*window_, &drop);
     }
 
     void Choose(const QString& plate) {
@@ -182,7 +195,7 @@ class Operator {
         int index = 0;
         for (const LibraryEntry& entry : listing.plates) {
             if (entry.name == plate.toStdString())
-                window_.findChild<LibraryPanel*>()->Choose(index);
+                window_->findChild<LibraryPanel*>()->Choose(index);
             ++index;
         }
     }
@@ -224,7 +237,7 @@ class Operator {
     }
 
     void ReportChanges() {
-        const Shown now = StateOf(window_);
+        const Shown now = StateOf(*window_);
         for (const auto& [name, value] : now.asKeyValueRange())
             if (before_.value(name) != value) report_ += name + ": " + value + "\n";
         for (const auto& [name, value] : before_.asKeyValueRange())
@@ -234,7 +247,7 @@ class Operator {
 
     const QString home_ = QDir::currentPath();
     TempFolder folder_;
-    MainWindow window_;
+    std::optional<MainWindow> window_;
     QTimer dialogs_;
     QStringList answers_;
     QString report_;
