@@ -698,10 +698,6 @@ Zeile %2</translation>
         <translation>Ausgewählte Kavitäten &amp;leeren</translation>
     </message>
     <message>
-        <source>&amp;Deselect All</source>
-        <translation>Auswahl auf&amp;heben</translation>
-    </message>
-    <message>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
     </message>
@@ -783,6 +779,45 @@ Zeile %2</translation>
     <message>
         <source>&amp;Clear List</source>
         <translation>Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
+    <name>zorvane::viewer::SelectMenu</name>
+    <message>
+        <source>&amp;Select</source>
+        <translation>Au&amp;swählen</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Keine</translation>
+    </message>
+    <message>
+        <source>&amp;Inverse</source>
+        <translation>&amp;Umgekehrtamp;Umkehren</translation>
+    </message>
+    <message>
+        <source>&amp;Row of the Current Well</source>
+        <translation>&amp;Zeile der aktuellen Kavität</translation>
+    </message>
+    <message>
+        <source>&amp;Column of the Current Well</source>
+        <translation>&amp;Spalte der aktuellen Kavität</translation>
+    </message>
+    <message>
+        <source>Same &amp;Volume</source>
+        <translation>Gleiches &amp;Volumen</translation>
+    </message>
+    <message>
+        <source>Same &amp;Text</source>
+        <translation>Gleicher &amp;Text</translation>
+    </message>
+    <message>
+        <source>Same &amp;Error Code</source>
+        <translation>Gleicher &amp;Fehlercode</translation>
     </message>
 </context>
 <context>

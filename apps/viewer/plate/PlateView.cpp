@@ -3,6 +3,7 @@
 #include "apps/viewer/PlateSession.h"
 #include "apps/viewer/plate/CurrentWellMark.h"
 #include "apps/viewer/plate/VolumeLegend.h"
+#include "apps/viewer/plate/WellKeys.h"
 
 #include <QLabel>
 #include <QScrollArea>
@@ -33,6 +34,7 @@ PlateView::PlateView(QWidget* parent)
 void PlateView::SetSession(PlateSession& session) {
     page_->layout()->addWidget(new VolumeLegend(session));
     new CurrentWellMark(session);
+    new WellKeys(session);
     connect(&session, &PlateSession::opened, this, [this] { setCurrentWidget(page_); });
 }
 

@@ -5,6 +5,7 @@
 #include "apps/viewer/fill/FillDialog.h"
 #include "apps/viewer/window/LibraryBrowser.h"
 #include "apps/viewer/window/RecentFiles.h"
+#include "apps/viewer/window/SelectMenu.h"
 #include "apps/viewer/window/WellDataFiles.h"
 
 #include <QActionGroup>
@@ -86,9 +87,7 @@ void MainMenu::AddWellsMenu() {
     clear->setShortcutContext(Qt::WidgetShortcut); // elsewhere the key means something else
     session_.Widget().addAction(clear);
     needWells_->addAction(clear);
-    needWells_->addAction(menu.addAction(tr("&Deselect All"),
-                                         QKeyCombination({Qt::CTRL, Qt::SHIFT}, Qt::Key_A),
-                                         &session_, &PlateSession::Deselect));
+    needWells_->addAction(menu.addMenu(new SelectMenu(session_, &window_)));
     tools_->addAction(fill);
 }
 
