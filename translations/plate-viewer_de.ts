@@ -389,6 +389,14 @@
         <source>Save as &amp;New Plate…</source>
         <translation>Als &amp;neue Platte speichern …</translation>
     </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
 </context>
 <context>
     <name>zorvane::viewer::EditMode</name>
@@ -563,6 +571,10 @@
 The plate has columns 1 to %3 and rows 1 to %4. Nothing was filled.</source>
         <translation>Fehler %1: %2.
 Die Platte hat die Spalten 1 bis %3 und die Zeilen 1 bis %4. Nichts wurde gefüllt.</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllen</translation>
     </message>
 </context>
 <context>
@@ -757,6 +769,14 @@ Zeile %2</translation>
     <message>
         <source>Nothing was moved: some of the wells would leave the plate.</source>
         <translation>Nichts wurde verschoben: Einige Kavitäten lägen außerhalb der Platte.</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
     </message>
 </context>
 <context>
@@ -974,6 +994,10 @@ Nichts wurde geändert.</translation>
             <numerusform>Daten von %n Kavitäten wurden aus %1 gelesen</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
 </context>
 <context>
     <name>zorvane::viewer::WellInspector</name>
@@ -1064,6 +1088,34 @@ Nichts wurde geändert.</translation>
     <message>
         <source>%1 · row %2, column %3</source>
         <translation>%1 · Zeile %2, Spalte %3</translation>
+    </message>
+    <message>
+        <source>Defined</source>
+        <translation>Definiert</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Annotation</source>
+        <translation>Aufschrift</translation>
+    </message>
+    <message>
+        <source>Bottom Colour</source>
+        <translation>Farbe des Bodens</translation>
+    </message>
+    <message>
+        <source>Rim Colour</source>
+        <translation>Farbe des Randes</translation>
+    </message>
+    <message>
+        <source>Error Code</source>
+        <translation>Fehlercode</translation>
     </message>
 </context>
 </TS>

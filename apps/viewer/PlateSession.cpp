@@ -34,11 +34,15 @@ void PlateSession::ReadNames() {
     namesOutdated_ = false;
     const std::vector<String> before = names_.SubWells();
     names_ = WellNames(Control());
+    history_.SwitchTo(widget_.plateName(), Control().TotalWells());
     if (names_.SubWells() != before) emit subWellsChanged();
 }
 
 bool PlateSession::Open(const QString& library, const QString& plateName) {
-    if (library != library_) archive_.Clear();
+    if (library != library_) {
+        archive_.Clear();
+        history_.Clear();
+    }
     bool loaded = false;
     Edit([&] {
         KeepWells();
@@ -112,6 +116,28 @@ void PlateSession::BringWellsBack() {
     Control().ClearSelection();
 }
 
+bool PlateSession::EditWells(const QString& name, const std::function<void()>& change,
+                             const QObject* field) {
+    return Edit([&] {
+        const PlateWells before = CaptureAll(Control());
+        try {
+            change();
+        } catch (const RuntimeError&) {
+            Show(WellChange(before, CaptureAll(Control())).before);
+            throw;
+        }
+        history_.Add(name, WellChange(before, CaptureAll(Control())), field);
+    });
+}
+
+void PlateSession::Show(const WellState& state) {
+    if (SelectedWells() != state.selection)
+        widget_.setSelectedWells({state.selection.begin(), state.selection.end()});
+    for (const auto& [well, snapshot] : state.wells)
+        Restore(Control(), well, snapshot);
+    Control().CurrentWell(state.current);
+}
+
 void PlateSession::Deselect() {
     if (HasWells()) Control().ClearSelection();
 }
@@ -128,7 +154,7 @@ void PlateSession::SetSelectBoxEnabled(bool on) {
 
 void PlateSession::MoveSelection(int columns, int rows) {
     bool moved = false;
-    Edit([&] {
+    EditWells(tr("Move"), [&] {
         moved =
             MoveSelectedWells(Control(), static_cast<Integer>(columns), static_cast<Integer>(rows));
     });
@@ -140,7 +166,7 @@ void PlateSession::MoveSelection(int columns, int rows) {
 }
 
 void PlateSession::ClearSelectedWells() {
-    Edit([this] {
+    EditWells(tr("Clear"), [this] {
         for (const Integer well : SelectedWells()) {
             WellSnapshot cleared = EmptyWell(Control());
             cleared.selected = true;

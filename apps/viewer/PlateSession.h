@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/viewer/WellHistory.h"
 #include "apps/viewer/logic/VolumeColoring.h"
 #include "apps/viewer/logic/WellArchive.h"
 #include "apps/viewer/texts/ErrorText.h"
@@ -11,6 +12,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -30,6 +32,8 @@ class PlateSession final : public QObject {
     const Plate& Control() const { return widget_.plate(); }
     const WellNames& Names() const { return names_; }
     const VolumeColoring& Coloring() const { return coloring_; }
+    /// What can be undone of the wells' data.
+    WellHistory& History() { return history_; }
 
     /// Shows a plate with its first well as the current one. When it cannot, the control has shown
     /// the reason, and the plate before it stays.
@@ -62,6 +66,12 @@ class PlateSession final : public QObject {
         }
         return done;
     }
+
+    /// Runs a change of the wells' data, as a step with a name that can be undone. Changes of one
+    /// field follow one another into a single step. A change that fails leaves the wells as they
+    /// were.
+    bool EditWells(const QString& name, const std::function<void()>& change,
+                   const QObject* field = nullptr);
 
     void ColorByVolume(bool on);
     void SetSelectBoxEnabled(bool on);
@@ -101,6 +111,7 @@ class PlateSession final : public QObject {
     void ReadNames();
     void Archive();
     void KeepWells();
+    void Show(const WellState& state);
     void BringWellsBack();
 
     PlateWidget& widget_;
@@ -111,6 +122,7 @@ class PlateSession final : public QObject {
     bool namesOutdated_ = false;
     QString library_;
     WellArchive archive_;
+    WellHistory history_{[this](const WellState& state) { Edit([&] { Show(state); }); }};
 };
 
 } // namespace zorvane::viewer

@@ -148,7 +148,7 @@ void FillDialog::Fill() {
 void FillDialog::accept() {
     const auto before = session_.Control().CurrentWell();
     QString problem;
-    session_.Edit([&] {
+    session_.EditWells(tr("Fill"), [&] {
         Plate& plate = session_.Control();
         try {
             Fill();

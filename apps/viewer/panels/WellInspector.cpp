@@ -2,6 +2,7 @@
 
 #include "apps/viewer/PlateSession.h"
 #include "apps/viewer/widgets/ColorButton.h"
+#include "apps/viewer/widgets/UndoKeys.h"
 #include "hosts/qt/QtPalette.h"
 #include "runtime/NumberText.h"
 
@@ -113,36 +114,67 @@ void WellInspector::ConnectFields() {
     connect(subWell_, &QComboBox::activated, this, [this, &plate](int index) {
         session_.Edit([&] { plate.WellIndex(static_cast<Integer>(index + 1)); });
     });
-    connect(defined_, &QCheckBox::clicked, this,
-            [this, &plate](bool on) { Change([&](Integer well) { plate.IsDefined(well, on); }); });
+    connect(selected_, &QCheckBox::clicked, this, [this, &plate](bool on) {
+        if (const auto well = session_.CurrentWell())
+            session_.Edit([&] { plate.SelectWell(*well, on); });
+    });
+    connect(defined_, &QCheckBox::clicked, this, [this, &plate](bool on) {
+        Change(tr("Defined"), *defined_, [&](Integer well) { plate.IsDefined(well, on); });
+    });
     connect(volume_, &QDoubleSpinBox::valueChanged, this, [this, &plate](double volume) {
-        Change([&](Integer well) { plate.SetVolume(well, static_cast<Single>(volume)); });
+        Change(tr("Volume"), *volume_,
+               [&](Integer well) { plate.SetVolume(well, static_cast<Single>(volume)); });
     });
     connect(text_, &QLineEdit::textEdited, this, [this, &plate](const QString& text) {
-        Change([&](Integer well) { plate.Text(well, text.toStdString()); });
+        Change(tr("Text"), *text_, [&](Integer well) { plate.Text(well, text.toStdString()); });
     });
     connect(errorCode_, &QSpinBox::valueChanged, this, &WellInspector::WriteErrorCode);
     connect(annotation_, &QLineEdit::textEdited, this, [this, &plate](const QString& text) {
-        Change([&](Integer well) { plate.WellAnnotation(well, text.toStdString()); });
+        Change(tr("Annotation"), *annotation_,
+               [&](Integer well) { plate.WellAnnotation(well, text.toStdString()); });
     });
-    connect(selected_, &QCheckBox::clicked, this,
-            [this, &plate](bool on) { Change([&](Integer well) { plate.SelectWell(well, on); }); });
     connect(bottom_, &ColorButton::chosen, this, [this, &plate](const QColor& color) {
-        Change([&](Integer well) { plate.WellFill(well, ToLong(color, 0)); });
+        Change(tr("Bottom Colour"), *bottom_,
+               [&](Integer well) { plate.WellFill(well, ToLong(color, 0)); });
     });
     connect(rim_, &ColorButton::chosen, this, [this, &plate](const QColor& color) {
-        Change([&](Integer well) { plate.RimFill(well, ToLong(color, 0)); });
+        Change(tr("Rim Colour"), *rim_,
+               [&](Integer well) { plate.RimFill(well, ToLong(color, 0)); });
+    });
+    ConnectHistory();
+}
+
+/// Leaving a field ends its step. Its keys for undo and redo are the window's, unless what has been
+/// typed is not in the well yet, or a plate type is edited.
+void WellInspector::ConnectHistory() {
+    const auto inspects = [this] { return !session_.Control().EditEnable(); };
+    const auto endStep = [this] { session_.History().EndStep(); };
+    for (QLineEdit* field : {text_, annotation_}) {
+        connect(field, &QLineEdit::editingFinished, this, endStep);
+        new UndoKeys(*field, inspects);
+    }
+    for (QAbstractSpinBox* field :
+         {static_cast<QAbstractSpinBox*>(volume_), static_cast<QAbstractSpinBox*>(errorCode_)})
+        connect(field, &QAbstractSpinBox::editingFinished, this, endStep);
+    new UndoKeys(*volume_, [this, inspects] {
+        return inspects() && volume_->cleanText() == volume_->textFromValue(volume_->value());
+    });
+    new UndoKeys(*errorCode_, [this, inspects] {
+        return inspects() && errorCode_->cleanText().toInt() == errorCode_->value();
     });
 }
 
-void WellInspector::Change(const std::function<void(Integer well)>& change) {
+void WellInspector::Change(const QString& name, const QWidget& field,
+                           const std::function<void(Integer well)>& change) {
     const auto well = session_.CurrentWell();
-    if (well) session_.Edit([&] { change(*well); });
+    if (well)
+        session_.EditWells(
+            name, [&] { change(*well); }, &field);
 }
 
 // An error code does not colour a well by itself; marking the well as defined does.
 void WellInspector::WriteErrorCode(int code) {
-    Change([&](Integer well) {
+    Change(tr("Error Code"), *errorCode_, [&](Integer well) {
         session_.Control().ErrorCode(well, static_cast<Integer>(code));
         if (session_.Control().IsDefined(well)) session_.Control().IsDefined(well, true);
     });

@@ -39,8 +39,10 @@ class WellInspector final : public QWidget {
     void Refresh();
     static QString PlaceOf(const Plate& plate);
     void ShowWell(Integer well);
-    /// Changes the current well, when there is one.
-    void Change(const std::function<void(Integer well)>& change);
+    void ConnectHistory();
+    /// Changes the current well, when there is one, as a step that can be undone.
+    void Change(const QString& name, const QWidget& field,
+                const std::function<void(Integer well)>& change);
     void WriteErrorCode(int code);
 
     PlateSession& session_;

@@ -69,7 +69,7 @@ void MainMenu::AddFileMenu(LibraryBrowser& library, WellDataFiles& data) {
 }
 
 void MainMenu::AddEditMenu(LibraryBrowser& library, EditMode& editing) {
-    auto* menu = new EditMenu(library, editing, &window_);
+    auto* menu = new EditMenu(library, editing, session_.History(), &window_);
     window_.menuBar()->addMenu(menu);
     needWells_->addAction(menu->Toggle());
     tools_->addAction(menu->Toggle());

@@ -50,7 +50,7 @@ void WellDataFiles::Import(const QString& file) {
         return;
     }
     const bool allInFile = !session_.PlatesNotInFile().contains(session_.Widget().plateName());
-    session_.Edit([&] { ApplyWellData(session_.Control(), rows); });
+    session_.EditWells(tr("Import"), [&] { ApplyWellData(session_.Control(), rows); });
     if (allInFile) session_.DataIsInFile();
     const auto count = static_cast<int>(rows.size());
     emit done((count == 1 ? tr("Data of 1 well were read from %1")

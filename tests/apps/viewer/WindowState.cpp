@@ -79,10 +79,12 @@ void AddActions(Shown& shown, const MainWindow& window) {
     QStringList on;
     QStringList off;
     for (const auto* action : window.findChildren<QAction*>()) {
-        if (action->isChecked()) on += Plain(action->text());
-        if (!action->isEnabled() && !action->text().isEmpty()) off += Plain(action->text());
+        const QString name = NameOf(*action);
+        if (action->isChecked()) on += name;
+        if (!action->isEnabled() && !name.isEmpty()) off += name;
         const QString keys = QKeySequence::listToString(action->shortcuts());
-        if (!keys.isEmpty()) shown["keys of " + Plain(action->text())] = keys;
+        if (!keys.isEmpty()) shown["keys of " + name] = keys;
+        if (!action->objectName().isEmpty()) shown[name] = Plain(action->text());
     }
     shown["checked"] = on.join(", ");
     shown["disabled"] = off.join(", ");
@@ -115,6 +117,10 @@ void AddPanels(Shown& shown, const MainWindow& window) {
 }
 
 } // namespace
+
+QString NameOf(const QAction& action) {
+    return action.objectName().isEmpty() ? Plain(action.text()) : action.objectName();
+}
 
 QString NameOf(const QWidget& field) {
     for (const auto* label : field.window()->findChildren<QLabel*>())

@@ -147,7 +147,7 @@ class Operator {
 
     void Trigger(const QString& text) {
         for (auto* action : window_->findChildren<QAction*>())
-            if (action->text().remove('&') == text) return action->trigger();
+            if (NameOf(*action) == text) return action->trigger();
         throw std::runtime_error("no action");
     }
 
