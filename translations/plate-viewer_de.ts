@@ -741,6 +741,10 @@ Zeile %2</translation>
         <source>&amp;Find Plate</source>
         <translation>Platte &amp;suchen</translation>
     </message>
+    <message>
+        <source>&amp;Full Screen</source>
+        <translation>&amp;Vollbild</translation>
+    </message>
 </context>
 <context>
     <name>zorvane::viewer::MainWindow</name>

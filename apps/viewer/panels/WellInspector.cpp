@@ -41,7 +41,9 @@ QColor ColorOf(Long color, const QPalette& palette) {
 
 void SetText(QLineEdit& field, const String& text) {
     const QString shown = QString::fromStdString(text);
-    if (field.text() != shown) field.setText(shown);
+    if (field.text() == shown) return;
+    field.setText(shown);
+    field.setCursorPosition(0); // a long text shows how it begins
 }
 
 } // namespace

@@ -49,16 +49,16 @@ DockPanels::DockPanels(QMainWindow& window, PlateSession& session, PlateView& vi
     view.SetFitted(session.Widget().fixedSize());
 
     AddDock(window, QStringLiteral("Plates"), tr("Plates"), library_, Qt::LeftDockWidgetArea);
-    QDockWidget* well = AddDock(window, QStringLiteral("Well"), tr("Well"),
-                                Scrolled(new WellInspector(session)), Qt::RightDockWidgetArea);
+    wellDock_ = AddDock(window, QStringLiteral("Well"), tr("Well"),
+                        Scrolled(new WellInspector(session)), Qt::RightDockWidgetArea);
     QDockWidget* options = AddDock(window, QStringLiteral("Settings"), tr("Settings"),
                                    Scrolled(settings), Qt::RightDockWidgetArea);
-    window.tabifyDockWidget(well, options);
+    window.tabifyDockWidget(wellDock_, options);
     differenceDock_ = AddDock(window, QStringLiteral("Difference"), tr("Difference"), difference_,
                               Qt::RightDockWidgetArea);
     window.tabifyDockWidget(options, differenceDock_);
     differenceDock_->hide();
-    well->raise();
+    wellDock_->raise();
     QDockWidget* events =
         AddDock(window, QStringLiteral("Events"), tr("Events"), events_, Qt::BottomDockWidgetArea);
     window.setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
@@ -68,8 +68,9 @@ DockPanels::DockPanels(QMainWindow& window, PlateSession& session, PlateView& vi
 }
 
 void DockPanels::ShowDifference(bool on) const {
+    const bool wasThere = !differenceDock_->isHidden();
     differenceDock_->setVisible(on);
-    if (on) differenceDock_->raise();
+    if (on || wasThere) (on ? differenceDock_ : wellDock_)->raise();
 }
 
 } // namespace zorvane::viewer

@@ -23,13 +23,15 @@ class DockPanels {
     LibraryPanel& Library() const { return *library_; }
     EventLog& Events() const { return *events_; }
     DifferencePanel& Difference() const { return *difference_; }
-    /// Puts the difference to the library in front of the other panels, or hides it.
+    /// Puts the difference to the library in front of the other panels, or hides it and puts the
+    /// well in front.
     void ShowDifference(bool on) const;
 
   private:
     LibraryPanel* library_;
     EventLog* events_;
     DifferencePanel* difference_;
+    QDockWidget* wellDock_;
     QDockWidget* differenceDock_;
 };
 

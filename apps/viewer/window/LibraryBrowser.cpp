@@ -101,6 +101,7 @@ void LibraryBrowser::ListAgain(const QString& plate) {
     if (!listing) return;
     panel_.Show(*listing);
     panel_.SetChosen(plate);
+    emit plateShown();
 }
 
 std::optional<LibraryListing> LibraryBrowser::Read(const QString& file) {

@@ -43,7 +43,8 @@ class LibraryBrowser final : public QObject {
   signals:
     void opened(const QString& file);
     void aboutToShowPlate();
-    /// A plate of the library has been asked for; it is shown unless the control has failed.
+    /// A plate of the library has been asked for, or saved under another name; it is shown unless
+    /// the control has failed.
     void plateShown();
     void failed(const QString& reason);
 

@@ -106,6 +106,14 @@ void MainMenu::AddViewMenu() {
     menu.addSeparator();
     for (QDockWidget* dock : window_.findChildren<QDockWidget*>())
         menu.addAction(dock->toggleViewAction());
+    menu.addSeparator();
+    QAction* full = menu.addAction(tr("&Full Screen"));
+    full->setCheckable(true);
+    full->setShortcut(Qt::Key_F11);
+    connect(&menu, &QMenu::aboutToShow, full,
+            [this, full] { full->setChecked(window_.isFullScreen()); });
+    connect(full, &QAction::triggered, this,
+            [this] { window_.setWindowState(window_.windowState() ^ Qt::WindowFullScreen); });
 }
 
 void MainMenu::AddHelpMenu() {

@@ -101,6 +101,10 @@ void AddPanels(Shown& shown, const MainWindow& window) {
         std::abs(window.findChild<ViewSettings*>()->findChild<QDoubleSpinBox*>()->value() - scale) <
         0.06;
     shown["Scale"].replace(QRegularExpression("^\\S+"), same ? "as drawn" : "out of date");
+    QStringList front;
+    for (const auto* dock : window.findChildren<QDockWidget*>())
+        if (!dock->visibleRegion().isEmpty()) front += dock->windowTitle();
+    shown["in front"] = front.join(", ");
     QStringList plates;
     const auto& list = *window.findChild<QListWidget*>();
     for (int row = 0; row < list.count(); ++row) {
