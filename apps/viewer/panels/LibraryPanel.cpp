@@ -94,6 +94,8 @@ void LibraryPanel::AddPlate(const LibraryEntry& plate) {
         tr("Line %1: cannot be opened, as a plate before it has the same name").arg(plate.line));
 }
 
+QWidget& LibraryPanel::List() const { return *list_; }
+
 void LibraryPanel::Choose(int index) { list_->setCurrentRow(index); }
 
 QString LibraryPanel::Chosen() const {

@@ -22,6 +22,8 @@ class LibraryPanel final : public QWidget {
     /// Why a listing ends before its file does; empty when it does not.
     static QString StopText(const LibraryListing& library);
 
+    /// The list itself, the last stop of the Tab key.
+    QWidget& List() const;
     /// Lists the plates of a library, none of them chosen.
     void Show(const LibraryListing& library);
     /// Chooses a plate by its index in the library.

@@ -24,6 +24,9 @@ QDockWidget* AddDock(QMainWindow& window, const QString& name, const QString& ti
     auto* dock = new QDockWidget(title, &window);
     dock->setObjectName(name);
     dock->setWidget(content);
+    // What lies under another tab is no stop of the Tab key, but keeps its room.
+    dock->setMinimumWidth(content->minimumWidth());
+    QObject::connect(dock, &QDockWidget::visibilityChanged, content, &QWidget::setVisible);
     window.addDockWidget(area, dock);
     return dock;
 }
@@ -61,6 +64,8 @@ DockPanels::DockPanels(QMainWindow& window, PlateSession& session, PlateView& vi
     wellDock_->raise();
     QDockWidget* events =
         AddDock(window, QStringLiteral("Events"), tr("Events"), events_, Qt::BottomDockWidgetArea);
+    events->hide(); // until somebody asks for them, the room is the plate's
+    QWidget::setTabOrder(&library_->List(), &view.Widget());
     window.setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
     window.setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
