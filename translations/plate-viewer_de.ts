@@ -578,6 +578,61 @@ Die Platte hat die Spalten 1 bis %3 und die Zeilen 1 bis %4. Nichts wurde gefül
     </message>
 </context>
 <context>
+    <name>zorvane::viewer::KeysDialog</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>Überall</translation>
+    </message>
+    <message>
+        <source>On the plate</source>
+        <translation>Auf der Platte</translation>
+    </message>
+    <message>
+        <source>Arrow keys</source>
+        <translation>Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>To the next well</source>
+        <translation>Zur nächsten Kavität</translation>
+    </message>
+    <message>
+        <source>To the ends of the row</source>
+        <translation>Zu den Enden der Zeile</translation>
+    </message>
+    <message>
+        <source>To the ends of the column</source>
+        <translation>Zu den Enden der Spalte</translation>
+    </message>
+    <message>
+        <source>To the first and the last well</source>
+        <translation>Zur ersten und zur letzten Kavität</translation>
+    </message>
+    <message>
+        <source>Select the well, or not</source>
+        <translation>Kavität auswählen oder nicht</translation>
+    </message>
+    <message>
+        <source>Shift and arrow keys</source>
+        <translation>Umschalt und Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>Select from well to well</source>
+        <translation>Von Kavität zu Kavität auswählen</translation>
+    </message>
+    <message>
+        <source>Select all wells</source>
+        <translation>Alle Kavitäten auswählen</translation>
+    </message>
+    <message>
+        <source>Clear the selection</source>
+        <translation>Auswahl aufheben</translation>
+    </message>
+</context>
+<context>
     <name>zorvane::viewer::LibraryBrowser</name>
     <message>
         <source>Open Plate Library</source>
@@ -744,6 +799,10 @@ Zeile %2</translation>
     <message>
         <source>&amp;Full Screen</source>
         <translation>&amp;Vollbild</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Tasten</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "apps/viewer/PlateSession.h"
 #include "apps/viewer/editing/EditMenu.h"
 #include "apps/viewer/fill/FillDialog.h"
+#include "apps/viewer/window/KeysDialog.h"
 #include "apps/viewer/window/LibraryBrowser.h"
 #include "apps/viewer/window/RecentFiles.h"
 #include "apps/viewer/window/SelectMenu.h"
@@ -118,12 +119,18 @@ void MainMenu::AddViewMenu() {
 
 void MainMenu::AddHelpMenu() {
     QMenu& menu = *window_.menuBar()->addMenu(tr("&Help"));
+    menu.addAction(tr("&Keys"), QKeySequence(Qt::Key_F1), this, &MainMenu::ShowKeys);
     QAction* about = menu.addAction(tr("&About Plate Viewer"), this, &MainMenu::ShowAbout);
     about->setMenuRole(QAction::AboutRole);
 }
 
 void MainMenu::ShowFillDialog() {
     FillDialog dialog(session_, &window_);
+    dialog.exec();
+}
+
+void MainMenu::ShowKeys() {
+    KeysDialog dialog(window_.menuBar()->actions(), &window_);
     dialog.exec();
 }
 

@@ -33,6 +33,7 @@ class MainMenu final : public QObject {
 
   private:
     void ShowFillDialog();
+    void ShowKeys();
     void ShowAbout();
 
     QMainWindow& window_;
