@@ -852,6 +852,10 @@ Zeile %2</translation>
         <source>Plate</source>
         <translation>Platte</translation>
     </message>
+    <message>
+        <source>&amp;Open Library…</source>
+        <translation>Bibliothek ö&amp;ffnen …</translation>
+    </message>
 </context>
 <context>
     <name>zorvane::viewer::RecentFiles</name>

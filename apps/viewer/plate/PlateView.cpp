@@ -6,6 +6,7 @@
 #include "apps/viewer/plate/WellKeys.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -14,10 +15,6 @@ namespace zorvane::viewer {
 PlateView::PlateView(QWidget* parent)
     : QStackedWidget(parent), scroll_(new QScrollArea), plate_(new PlateWidget),
       page_(new QWidget) {
-    auto* hint = new QLabel(tr("Open a plate library, or drop one here."));
-    hint->setAlignment(Qt::AlignCenter);
-    hint->setEnabled(false);
-
     plate_->setAccessibleName(tr("Plate"));
     plate_->setRefitOnResize(true);
     scroll_->setFrameShape(QFrame::NoFrame);
@@ -27,8 +24,25 @@ PlateView::PlateView(QWidget* parent)
 
     auto* layout = new QVBoxLayout(page_);
     layout->addWidget(scroll_, 1);
-    addWidget(hint);
+    addWidget(MakeStartPage());
     addWidget(page_);
+}
+
+QWidget* PlateView::MakeStartPage() {
+    auto* hint = new QLabel(tr("Open a plate library, or drop one here."));
+    hint->setAlignment(Qt::AlignCenter);
+    auto* open = new QPushButton(tr("&Open Library…"));
+    open->setMinimumHeight(2 * open->sizeHint().height());
+    connect(open, &QPushButton::clicked, this, &PlateView::openAsked);
+
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->setSpacing(16);
+    layout->addStretch(1);
+    layout->addWidget(hint);
+    layout->addWidget(open, 0, Qt::AlignHCenter);
+    layout->addStretch(1);
+    return page;
 }
 
 void PlateView::SetSession(PlateSession& session) {

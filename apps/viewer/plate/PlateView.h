@@ -2,7 +2,6 @@
 
 #include <QStackedWidget>
 
-class QLabel;
 class QScrollArea;
 
 namespace zorvane {
@@ -13,7 +12,8 @@ namespace zorvane::viewer {
 
 class PlateSession;
 
-/// The middle of the window: the plate with its legend, or a hint while there is none.
+/// The middle of the window: the plate with its legend, or a way to open a library before there is
+/// one.
 class PlateView final : public QStackedWidget {
     Q_OBJECT
 
@@ -26,7 +26,13 @@ class PlateView final : public QStackedWidget {
     /// Lets the plate fill the room, or scrolls over a plate of its own size.
     void SetFitted(bool on);
 
+  signals:
+    /// The operator asks for a library, none being open.
+    void openAsked();
+
   private:
+    QWidget* MakeStartPage();
+
     QScrollArea* scroll_;
     PlateWidget* plate_;
     QWidget* page_;

@@ -110,6 +110,7 @@ void MainWindow::ConnectLibrary() {
     connect(library_, &LibraryBrowser::aboutToShowPlate, statusBar(), &QStatusBar::clearMessage);
     connect(library_, &LibraryBrowser::plateShown, this, &MainWindow::ShowTitle);
     connect(library_, &LibraryBrowser::failed, this, &MainWindow::Warn);
+    connect(view_, &PlateView::openAsked, library_, &LibraryBrowser::AskAndOpen);
 }
 
 void MainWindow::ConnectPlate(const DockPanels& panels) {
