@@ -36,7 +36,7 @@ void RequireWord(const String& name, const String& what) {
 
 /// The label of the first line, from which the control counts up only at A and 1.
 String FirstLabel(const GridLines& lines, const char* what, String (*labelOf)(Long)) {
-    const String label = labelOf(lines.NameAt(0));
+    String label = labelOf(lines.NameAt(0));
     if (lines.count > 1 && !lines.countsDown && lines.first != 0) {
         RefuseSource(String(what) + " that begin with " + label +
                      " and count up cannot be labelled: they must begin with " + labelOf(0));
@@ -61,20 +61,22 @@ constexpr std::array<Shared, 6> kShared{{{"size along X", &SourceWell::sizeX},
                                          {"rim along X", &SourceWell::rimWidth},
                                          {"rim along Y", &SourceWell::rimHeight}}};
 
+[[noreturn]] void RefuseDifferent(const char* what, const SourceWell& first, const String& value,
+                                  const SourceWell& other, const String& otherValue) {
+    RefuseSource("the wells differ: the " + String(what) + " of " + PositionName(first.position) +
+                 " is " + value + " and that of " + PositionName(other.position) + " " +
+                 otherValue);
+}
+
 void RequireShared(const std::vector<SourceWell>& wells) {
     const SourceWell& first = wells.front();
-    const String of = " of " + PositionName(first.position) + " ";
     for (const SourceWell& well : wells) {
-        const String at = " and that of " + PositionName(well.position) + " ";
-        for (const Shared& shared : kShared) {
-            if (SameNumber(well.*shared.value, first.*shared.value)) continue;
-            RefuseSource("the wells differ: the " + String(shared.name) + of + "is " +
-                         (first.*shared.value).Text() + at + (well.*shared.value).Text());
+        for (const auto& [name, value] : kShared) {
+            if (!SameNumber(well.*value, first.*value))
+                RefuseDifferent(name, first, (first.*value).Text(), well, (well.*value).Text());
         }
-        if (well.style != first.style) {
-            RefuseSource("the wells differ: the style" + of + "is " + first.style + at +
-                         well.style);
-        }
+        if (well.style != first.style)
+            RefuseDifferent("style", first, first.style, well, well.style);
     }
 }
 

@@ -3,7 +3,6 @@
 #include "model/cmPlate.h"
 #include "runtime/Types.h"
 
-#include <compare>
 #include <optional>
 #include <string_view>
 
@@ -15,7 +14,10 @@ struct WellPosition {
     Long row = 0;
     Long col = 0;
 
-    friend auto operator<=>(const WellPosition&, const WellPosition&) = default;
+    friend bool operator==(const WellPosition&, const WellPosition&) = default;
+    friend bool operator<(const WellPosition& a, const WellPosition& b) {
+        return a.row != b.row ? a.row < b.row : a.col < b.col;
+    }
 };
 
 /// No plate has more wells, and none more rows or columns.

@@ -45,7 +45,7 @@ class ValueReader {
                 RequireNumber(well, column, value);
                 values[column] = value;
             } else if (columns_.empty()) {
-                others += ", " + name + ": " + value;
+                others.append(", ").append(name).append(": ").append(value);
             }
         }
         if (values[Text].empty() && !others.empty()) others.erase(0, 2);

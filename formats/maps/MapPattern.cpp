@@ -65,7 +65,7 @@ std::vector<Long> LinesOfPattern(std::string_view pattern,
                                  std::optional<Long> (*parse)(std::string_view), const char* what) {
     const auto names = NamesIn(pattern, parse, what);
     if (!names.series) return names.list;
-    const auto lines = Series(names.list[0], names.list[1], names.list[2]);
+    auto lines = Series(names.list[0], names.list[1], names.list[2]);
     if (lines.empty()) RefusePattern(pattern, "series that ends as it says");
     return lines;
 }

@@ -157,7 +157,7 @@ class TableReader {
     }
 
     String StyleOf(const CsvRecord& record) const {
-        const String style = UpperText(columns_.Trimmed(record, Style));
+        String style = UpperText(columns_.Trimmed(record, Style));
         for (Long code = 0; code < 4; ++code)
             if (style == cmPlate::StyleText(code)) return style;
         columns_.Fail(record, Style,

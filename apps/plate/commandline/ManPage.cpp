@@ -53,10 +53,11 @@ String Footer(const CLI::App& command) {
     std::istringstream lines(command.get_footer());
     for (String line; std::getline(lines, line);) {
         const bool indented = line.starts_with("  ");
-        if (indented != literal)
+        if (indented != literal) {
             text += indented ? ".RS 4\n.nf\n" : ".fi\n.RE\n";
-        else if (text.empty() || line.ends_with(':'))
+        } else if (text.empty() || line.ends_with(':')) {
             text += ".PP\n";
+        }
         literal = indented;
         text += Escaped(indented ? line.substr(2) : line) + "\n";
     }
