@@ -59,14 +59,15 @@ CommandLine::CommandLine() : app_("Reads, checks, draws and changes plate librar
 
 ExitCode CommandLine::Help(const std::vector<std::string>& names) const {
     const CLI::App* command = &app_;
-    std::string parents;
+    std::string path = app_.get_name();
     for (const std::string& name : names) {
         const CLI::App* const next = SubcommandNamed(*command, name);
         if (!next) return SayNoSuchCommand(*command, name);
-        parents += (parents.empty() ? "" : " ") + command->get_name();
         command = next;
+        path += " " + command->get_name();
     }
-    Print(command->help(parents));
+    // The program's own help would be that of the command which is running: "help".
+    Print(command->get_formatter()->make_help(command, path, CLI::AppFormatMode::Normal));
     return kDone;
 }
 

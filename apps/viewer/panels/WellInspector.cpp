@@ -169,9 +169,9 @@ void WellInspector::ConnectHistory() {
 void WellInspector::Change(const QString& name, const QWidget& field,
                            const std::function<void(Integer well)>& change) {
     const auto well = session_.CurrentWell();
-    if (well)
-        session_.EditWells(
-            name, [&] { change(*well); }, &field);
+    if (!well) return;
+    session_.EditWells(
+        name, [&] { change(*well); }, &field);
 }
 
 // An error code does not colour a well by itself; marking the well as defined does.
