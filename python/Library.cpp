@@ -1,6 +1,7 @@
 #include "python/Bindings.h"
 #include "python/Text.h"
 
+#include "library/DefinitionLimits.h"
 #include "library/DiskFiles.h"
 #include "library/LibraryDocument.h"
 #include "library/ReadBack.h"
@@ -24,7 +25,9 @@ namespace {
 class Library {
   public:
     explicit Library(const std::filesystem::path& path)
-        : document_(files_, path.string()), text_(document_.Text()) {}
+        : document_(files_, path.string()), text_(document_.Text()) {
+        CheckDefinitionSizes(text_.Bytes());
+    }
 
     std::filesystem::path Path() const { return document_.Path(); }
     Text Bytes() const { return text_.Bytes(); }
@@ -73,7 +76,8 @@ Names are found in any letter case, the first plate of a name is meant, and noth
 that ends every search is there, as for programs that use the library. Plates that are taken out of
 it are copies: replace() and append() put them back, and save() writes the file.)")
         .def(py::init<const std::filesystem::path&>(), py::arg("path"),
-             "Reads a library file; Error 53, 75 or 76 when it cannot be read.")
+             "Reads a library file; Error 53, 75 or 76 when it cannot be read, 6 when it has a "
+             "plate of a\nsize that nobody means.")
         .def_property_readonly("path", &Library::Path, "The file, through any symbolic links.")
         .def_property_readonly("text", &Library::Bytes, "The text of the whole library.")
         .def("keys", &Library::Names, "The names of the plates, in the order of the file.")

@@ -8,6 +8,7 @@
 
 #include "control/PlateTypes.h"
 #include "library/DefinitionEdits.h"
+#include "library/DefinitionLimits.h"
 #include "platetext/ReadResult.h"
 #include "runtime/NumberText.h"
 #include "runtime/Rounding.h"
@@ -26,6 +27,7 @@ namespace {
 using PlateClass = py::class_<cmPlate, std::shared_ptr<cmPlate>>;
 
 std::shared_ptr<cmPlate> Defined(const Text& text) {
+    CheckDefinitionSizes(text.bytes);
     TextFile file;
     file.OpenText(text.bytes);
     auto plate = std::make_shared<cmPlate>();

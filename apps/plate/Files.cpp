@@ -1,6 +1,6 @@
 #include "apps/plate/Files.h"
 
-#include "apps/plate/DefinitionLimits.h"
+#include "library/DefinitionLimits.h"
 #include "library/DiskFiles.h"
 #include "library/ReplaceFile.h"
 #include "runtime/Text.h"

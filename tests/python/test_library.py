@@ -75,6 +75,7 @@ def test_what_a_plate_does_not_allow_is_an_error_with_a_number(library):
         (9, lambda: plate.well_name(-1)),
         (9, lambda: plate.to_svg(selected=["Q1"])),
         (53, lambda: zorvane.Library("no such file")),
+        (6, lambda: zorvane.Plate("PLATE P\n" + "".join(f"TAG t{i}\nWELL w{i}\n" for i in range(20000)))),
     ]
     for number, call in failing:
         with pytest.raises(zorvane.Error) as raised:

@@ -1,8 +1,8 @@
-#include "apps/plate/DefinitionLimits.h"
+#include "library/DefinitionLimits.h"
 
-#include "apps/plate/Files.h"
 #include "library/TextLines.h"
 #include "platetext/LineParts.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Text.h"
 
 #include <cstddef>
@@ -54,10 +54,11 @@ void CheckDefinitionSizes(std::string_view library) {
         if (OpensPlate(line.text)) plate = {};
         plate.Add(line);
         if (plate.bytes > kMostBytes || plate.recordedTags > kMostBytes) {
-            Fail("line " + std::to_string(number) + ": the plate is too large to be read: its " +
-                 (plate.bytes > kMostBytes ? "definition has"
-                                           : "tags, repeated in sub-wells, have") +
-                 " more than 16 MB");
+            Raise(ErrorNumber::Overflow,
+                  "line " + std::to_string(number) + ": the plate is too large to be read: its " +
+                      (plate.bytes > kMostBytes ? "definition has"
+                                                : "tags, repeated in sub-wells, have") +
+                      " more than 16 MB");
         }
     }
 }
