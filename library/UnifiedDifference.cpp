@@ -128,7 +128,7 @@ String NameField(const String& name) {
 } // namespace
 
 String UnifiedDifference(std::string_view before, std::string_view after, const String& name) {
-    const String hunks = Unified(before, after).Text();
+    String hunks = Unified(before, after).Text();
     if (hunks.empty()) return hunks;
     return "--- " + NameField(name) + "\n+++ " + NameField(name) + "\n" + hunks;
 }
