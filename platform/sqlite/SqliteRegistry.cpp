@@ -2,6 +2,7 @@
 
 #include "runtime/Text.h"
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -167,9 +168,10 @@ Long SqliteRegistry::Values(Long root, const String& key, std::vector<StoredValu
 template <class Deleting>
 Long SqliteRegistry::DeleteFromEach(Long root, Deleting deleting) const {
     Long answer = kRegistryNotFound;
-    const auto files = FilesOf(root);
-    for (auto file = files.rbegin(); file != files.rend(); ++file) {
-        const Long result = deleting(**file);
+    auto files = FilesOf(root);
+    std::reverse(files.begin(), files.end());
+    for (const RegistryFile* const file : files) {
+        const Long result = deleting(*file);
         if (result == kRegistryNotFound) continue;
         answer = result;
         if (result != kRegistrySuccess) break;

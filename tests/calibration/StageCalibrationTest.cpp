@@ -11,6 +11,7 @@ namespace {
 
 std::vector<CalibrationPoint> Measured(const PlaneMap& map, const std::vector<PlanePoint>& plate) {
     std::vector<CalibrationPoint> points;
+    points.reserve(plate.size());
     for (const PlanePoint& point : plate)
         points.push_back({point, map(point)});
     return points;
