@@ -43,25 +43,24 @@ QIcon PlateWidgetPlugin::icon() const {
     return pixmap;
 }
 
-// The elements are those of Qt's form files. The last two give file and plate name an editor of one
-// line, and keep both from translators.
+// A text that is not for translators in the widget that is dropped on a form stays so. Designer
+// gives properties with these names an editor of one line.
 QString PlateWidgetPlugin::domXml() const {
     return QStringLiteral(R"(<ui language="c++" displayname="Plate">
  <widget class="zorvane::PlateWidget" name="plate">
   <property name="geometry"><rect><x>0</x><y>0</y><width>440</width><height>320</height></rect></property>
+  <property name="fileName"><string notr="true">%1</string></property>
+  <property name="plateName"><string notr="true"/></property>
  </widget>
  <customwidgets>
   <customwidget>
    <class>zorvane::PlateWidget</class>
    <extends>QWidget</extends>
    <header>hosts/qt/PlateWidget.h</header>
-   <propertyspecifications>
-    <stringpropertyspecification name="fileName" type="singleline" notr="true"/>
-    <stringpropertyspecification name="plateName" type="singleline" notr="true"/>
-   </propertyspecifications>
   </customwidget>
  </customwidgets>
-</ui>)");
+</ui>)")
+        .arg(PlateWidget().fileName().toHtmlEscaped());
 }
 
 QWidget* PlateWidgetPlugin::createWidget(QWidget* parent) {
@@ -72,6 +71,7 @@ QWidget* PlateWidgetPlugin::createWidget(QWidget* parent) {
         connect(plate, &PlateWidget::plateChanged, plate, [plate] { plate->setToolTip({}); });
         connect(plate, &PlateWidget::failed, plate,
                 [plate](int, const QString&, const QString& why) {
+                    if (plate->requestedPlateName().isEmpty()) return; // it has not been asked for
                     if (plate->plateName().isEmpty()) {
                         const QSignalBlocker silent(plate);
                         plate->setPlateClassText("PLATE " + plate->requestedPlateName() + '\n');

@@ -13,7 +13,8 @@ namespace zorvane {
 namespace {
 
 void ForgetDefaults(QDesignerFormWindowInterface& form) {
-    const PlateWidget fresh;
+    PlateWidget fresh;
+    fresh.resetPlateName(); // as a widget does that is shown before a plate has been asked for
     const QMetaObject& described = PlateWidget::staticMetaObject;
     for (PlateWidget* const plate : form.findChildren<PlateWidget*>()) {
         auto* const sheet =
