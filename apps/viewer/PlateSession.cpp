@@ -2,6 +2,8 @@
 
 #include "apps/viewer/logic/PlateDataMover.h"
 
+#include <utility>
+
 namespace zorvane::viewer {
 
 PlateSession::PlateSession(PlateWidget& widget, QObject* parent)
@@ -39,15 +41,14 @@ void PlateSession::ReadNames() {
 }
 
 bool PlateSession::Open(const QString& library, const QString& plateName) {
-    if (library != library_) {
-        archive_.Clear();
-        history_.Clear();
-    }
     bool loaded = false;
     Edit([&] {
         KeepWells();
         loaded = widget_.load(plateName, library);
-        if (loaded) library_ = library;
+        if (loaded && std::exchange(library_, library) != library) {
+            archive_.Clear();
+            history_.Clear();
+        }
         BringWellsBack();
     });
     if (loaded) emit opened();
@@ -91,11 +92,7 @@ void PlateSession::DataIsInFile() {
 }
 
 void PlateSession::Archive() {
-    if (!HasWells()) return;
-    WellArchive::Wells wells;
-    for (Integer well = 0; well < Control().TotalWells(); ++well)
-        wells.push_back(Capture(Control(), well));
-    archive_.Keep(Control().PlateName(), std::move(wells));
+    if (HasWells()) archive_.Keep(Control().PlateName(), CaptureAll(Control()).wells);
 }
 
 void PlateSession::KeepWells() {
