@@ -7,6 +7,7 @@
 
 #include <QGraphicsProxyWidget>
 #include <QLayout>
+#include <QPointer>
 #include <QScrollArea>
 #include <QSplitter>
 
@@ -83,17 +84,18 @@ void PlateSizing::Resized() {
     Refit();
 }
 
-void PlateSizing::AboutToLoad() {
-    if (!refitOnResize_ || !plate_.FixedSize || plate_.DrawingScale() <= kDefaultScale) return;
+bool PlateSizing::AboutToLoad() {
+    if (!refitOnResize_ || !plate_.FixedSize || plate_.DrawingScale() <= kDefaultScale) return true;
     loading_ = true;
     plate_.FixedSize = false;
-    steps_.Run([this] { plate_.DrawingScale(kDefaultScale); });
+    if (!steps_.Run([this] { plate_.DrawingScale(kDefaultScale); })) return false;
     plate_.FixedSize = true;
     loading_ = false;
+    return true;
 }
 
-void PlateSizing::LayOut() {
-    steps_.Run([this] { plate_.DrawingScale(plate_.DrawingScale()); });
+bool PlateSizing::LayOut() {
+    return steps_.Run([this] { plate_.DrawingScale(plate_.DrawingScale()); });
 }
 
 // A layout fits the scale after it has sized the plate area, so it takes two to make both agree. A
@@ -104,14 +106,14 @@ void PlateSizing::Refit() {
     const bool shown = panel_.IsShown();
     const Integer page = plate_.Elements().panel.comboSelect.position;
     if (shown && plate_.EditsPending()) return;
+    const QPointer<QWidget> widget(&widget_); // a slot may destroy it
     refitting_ = true;
     panel_.Run([&] {
-        LayOut();
-        LayOut();
+        if (!LayOut() || !LayOut()) return;
         if (open) plate_.DataVisible(true);
-        if (shown) plate_.PageChosen(page);
+        if (widget && shown) plate_.PageChosen(page);
     });
-    refitting_ = false;
+    if (widget) refitting_ = false;
 }
 
 } // namespace zorvane

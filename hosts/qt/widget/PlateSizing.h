@@ -33,10 +33,11 @@ class PlateSizing final {
     void PlateChanged() { Refit(); }
     /// A plate is about to be loaded. One that will be fitted is laid out first at the scale of the
     /// plate before, which may have been so small that this one is too large at that scale.
-    void AboutToLoad();
+    /// Returns whether the widget is still there, as the next one does.
+    bool AboutToLoad();
 
     /// Lays the plate out with its present settings.
-    void LayOut();
+    bool LayOut();
 
   private:
     void Refit();

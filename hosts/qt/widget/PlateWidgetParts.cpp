@@ -47,7 +47,7 @@ void PlateWidget::Parts::ConnectSite() {
 bool PlateWidget::Parts::Load(const std::function<bool()>& step, QString* why) {
     const QPointer<PlateWidget> shown(&widget); // a slot may destroy it
     bool loaded = false;
-    sizing.AboutToLoad();
+    if (!sizing.AboutToLoad()) return false;
     if (why || widget.ReportsFailures()) {
         const auto failure = QuietLoad::Run(step);
         loaded = !failure;

@@ -200,6 +200,28 @@ TEST(Embedding, EachPlateIsFittedWhateverWasShownBefore) {
     }
 }
 
+TEST(Embedding, ASlotMayDestroyTheWidgetWhileAPlateIsFitted) {
+    const TempFolder folder;
+    const String chip = "PLATE Chip\r\nROWS 1\r\nCOLS 1\r\nXOVERALL 3\r\nYOVERALL 2\r\n";
+    folder.Put("Plates.Dat", chip);
+    // Before the plate is loaded, when it is, and in the course of fitting it.
+    for (const int changes : {1, 2, 3}) {
+        SCOPED_TRACE(changes);
+        const TestProcess process;
+        const QPointer<PlateWidget> widget = new PlateWidget;
+        widget->setPlateClassText(QString::fromStdString(chip));
+        widget->setRefitOnResize(true);
+        widget->show();
+        int left = changes;
+        QObject::connect(widget, &PlateWidget::plateChanged, widget, [&] {
+            if (--left == 0) delete widget;
+        });
+        widget->load("Chip", QString::fromStdString(folder.File("Plates.Dat")));
+        EXPECT_EQ(widget, nullptr);
+        delete widget;
+    }
+}
+
 TEST(Embedding, ASlotMayDestroyTheWidgetInTheMiddleOfAGesture) {
     const char* const signalNames[] = {
         SIGNAL(mousePressed(int, int, float, float)),
