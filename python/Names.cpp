@@ -15,17 +15,25 @@ WellNames NamesOn(const cmPlate& plate) {
     return WellNames(picture.Control());
 }
 
+Long CountOf(const WellNames& names) {
+    return Long{names.Rows()} * names.Cols() * static_cast<Long>(names.SubWells().size());
+}
+
 } // namespace
 
 std::vector<String> WellNamesOf(const cmPlate& plate) {
     const WellNames names = NamesOn(plate);
-    const Long count =
-        Long{names.Rows()} * names.Cols() * static_cast<Long>(names.SubWells().size());
     std::vector<String> all;
-    all.reserve(static_cast<std::size_t>(count));
-    for (Long well = 0; well < count; ++well)
+    all.reserve(static_cast<std::size_t>(CountOf(names)));
+    for (Long well = 0; well < CountOf(names); ++well)
         all.push_back(names.Name(static_cast<Integer>(well)));
     return all;
+}
+
+String WellNameOf(const cmPlate& plate, Long number) {
+    const WellNames names = NamesOn(plate);
+    if (number < 0 || number >= CountOf(names)) Raise(ErrorNumber::SubscriptOutOfRange);
+    return names.Name(static_cast<Integer>(number));
 }
 
 Integer WellNumberOf(const cmPlate& plate, const String& name) {

@@ -138,12 +138,7 @@ void AddNames(PlateClass& plate) {
 are several sub-wells.)")
         .def(
             "well_name",
-            [](const cmPlate& target, Long number) {
-                const auto names = WellNamesOf(target);
-                if (number < 0 || number >= static_cast<Long>(names.size()))
-                    Raise(ErrorNumber::SubscriptOutOfRange);
-                return Text(names[static_cast<std::size_t>(number)]);
-            },
+            [](const cmPlate& target, Long number) { return Text(WellNameOf(target, number)); },
             py::arg("number"), "The name of a well; Error 9 for a number that is no well.")
         .def(
             "well_number",
